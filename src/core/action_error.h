@@ -1,0 +1,28 @@
+// The one exception that ends an action: what was attempted, on which path, and why it failed.
+#pragma once
+
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+namespace vorlund {
+
+/// A failure that ends the running action and with it the program. Nobody catches it but the outermost
+/// layer, which shows `what()` to the user. All texts are UTF-8.
+class ActionError : public std::runtime_error {
+ public:
+  /// `attempted` is a verb phrase ("copy", "read line 7 of"), `path` the file or folder it was tried on,
+  /// `reason` the system's own text or the rule that was broken. `what()` joins the three into one sentence.
+  ActionError(std::string_view attempted, std::string_view path, std::string_view reason);
+
+  const std::string& attempted() const { return attempted_; }
+  const std::string& path() const { return path_; }
+  const std::string& reason() const { return reason_; }
+
+ private:
+  std::string attempted_;
+  std::string path_;
+  std::string reason_;
+};
+
+}  // namespace vorlund

@@ -1,0 +1,119 @@
+// Controls as plain data: what the window shows of each, without any widget.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace vorlund {
+
+/// Positions and sizes are in twips: 1/1440 inch, 15 to a pixel at 96 dots per inch.
+inline constexpr int kTwipsPerPixel = 15;
+
+struct Place {
+  int left = 0;
+  int top = 0;
+  int width = 0;
+  int height = 0;
+};
+
+/// Red, green and blue as 0xRRGGBB.
+using Colour = std::uint32_t;
+inline constexpr Colour kWhite = 0xFFFFFF;
+
+enum class MouseButton { kLeft, kRight, kMiddle };
+
+/// One press or release of a mouse button on a control.
+struct MouseEvent {
+  static constexpr int kShiftKey = 1;  ///< state when Shift alone is held
+
+  MouseButton button = MouseButton::kLeft;
+  int shift = 0;  ///< keys held: 1 Shift, 2 Control, 4 Alt, added up
+  int x = 0;      ///< twips from the control's left edge
+  int y = 0;      ///< twips from the control's top edge
+};
+
+struct Label {
+  std::string caption;
+  bool visible = true;
+  Place place;
+  Colour text_colour = kWhite;
+};
+
+/// A pane. Of two that overlap, the one with the greater depth is in front.
+struct Frame {
+  std::string caption;
+  bool visible = false;
+  Place place;
+  int depth = 0;
+};
+
+struct ListBox {
+  std::vector<std::string> items;
+  int selected = -1;  ///< index of the selected item, -1 for none
+  bool visible = true;
+};
+
+struct TextBox {
+  std::string text;
+  bool visible = true;
+};
+
+/// A check box or an option button.
+struct Choice {
+  std::string caption;
+  bool checked = false;
+};
+
+/// A table of text cells. Row 0 is the fixed header row and column 0 the fixed column.
+struct Grid {
+  struct Row {
+    std::vector<std::string> cells;
+    bool hidden = false;  ///< shown with height 0
+  };
+
+  std::vector<Row> rows;
+  int columns = 0;
+  std::vector<int> column_widths;  ///< twips; columns without an entry have the window's own width
+  int row = 0;                     ///< current row; 0 counts as no selection
+  int column = 0;                  ///< current column
+
+  /// Adds a row at the end, its cells cut or filled up to the number of columns.
+  void add_row(std::vector<std::string> cells);
+
+  /// Text of a cell; "" where there is no such row or column.
+  const std::string& cell(int row_index, int column_index) const;
+
+  /// Sets a cell that exists.
+  void set_cell(int row_index, int column_index, std::string text);
+
+  int row_count() const { return static_cast<int>(rows.size()); }
+};
+
+/// Keeps the order of panes that overlap.
+class FrameOrder {
+ public:
+  void bring_to_front(Frame& frame) { frame.depth = ++front_; }
+
+ private:
+  int front_ = 0;
+};
+
+/// The common dragging: a press stores the origin, the release moves the control by the difference.
+class DragOrigin {
+ public:
+  void press(const MouseEvent& event) {
+    x_ = event.x;
+    y_ = event.y;
+  }
+  void release(const MouseEvent& event, Place& place) const {
+    place.left += event.x - x_;
+    place.top += event.y - y_;
+  }
+
+ private:
+  int x_ = 0;
+  int y_ = 0;
+};
+
+}  // namespace vorlund

@@ -1,0 +1,120 @@
+// The one door to the disk: every file operation of the program goes through this interface.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <limits>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace vorlund {
+
+/// How far a written file must have got when the call returns.
+enum class Durability {
+  kCached,   ///< handed to the operating system
+  kFlushed,  ///< on the disk itself: for career saves and records, which nothing can make anew
+};
+
+/// What copying a file came to.
+enum class CopyOutcome {
+  kWritten,    ///< the target was created or replaced
+  kUnchanged,  ///< the target already held exactly the source's bytes, under exactly the asked name
+};
+
+enum class EntryKind { kFile, kFolder };
+
+/// One name inside a folder. Links count as what they lead to; what is neither file nor folder is left out.
+struct FolderEntry {
+  std::string name;  ///< bare name as it stands on the disk, UTF-8 (bytes that are not UTF-8 are kept)
+  EntryKind kind;
+  bool hidden;  ///< hidden or system attribute on Windows; a leading dot elsewhere
+};
+
+/// The file operations of the program.
+///
+/// Paths are UTF-8 texts with backslashes, formed by plain concatenation; doubled backslashes are accepted
+/// ("C:\\~Vorlund"), and on POSIX a slash separates as well. Names are matched without regard to case on
+/// every platform; where the disk tells cases apart, the exact spelling is tried first.
+/// Unless said otherwise an operation that fails throws ActionError with the path and the system's text.
+///
+/// A file is always replaced whole: it is written under the name `neighbour_name(target)` in the target's
+/// folder and renamed, so that a crash leaves the old file or the new one. A failed write leaves the old file.
+/// A written file keeps the permissions of the one it replaces, is spelled as the given path spells it (another
+/// spelling of the name is gone afterwards), and never follows a symbolic link: the link itself is replaced.
+/// A file marked read-only (no write permission at all, on POSIX) is not replaced or removed: that is an error.
+/// Nothing here ever creates a folder.
+class FileSystem {
+ public:
+  static constexpr std::uint64_t kNoLimit = std::numeric_limits<std::uint64_t>::max();
+
+  virtual ~FileSystem() = default;
+
+  /// The process's current folder, without a trailing separator except for a root ("C:\" or "/").
+  virtual std::string current_folder() = 0;
+
+  /// True when a file of that name exists. Never fails: a malformed or unreachable path does not exist.
+  virtual bool FileExists(std::string_view path) = 0;
+
+  /// True when a folder of that name exists. Never fails.
+  virtual bool FolderExists(std::string_view path) = 0;
+
+  /// Everything directly inside the folder, in no order, without "." and "..". A folder that does not exist
+  /// gives an empty list. Names that no path of this program can spell (with a backslash or slash) are left
+  /// out.
+  virtual std::vector<FolderEntry> entries(std::string_view folder) = 0;
+
+  /// The first `limit` bytes of the file, or the whole of it when it is shorter.
+  virtual std::string read_file(std::string_view path, std::uint64_t limit = kNoLimit) = 0;
+
+  /// Length of the file in bytes.
+  virtual std::uint64_t file_size(std::string_view path) = 0;
+
+  /// Makes `bytes` the whole content of the file, creating or replacing it.
+  virtual void replace_file(std::string_view path, std::string_view bytes, Durability durability) = 0;
+
+  /// Makes the target hold the source's bytes. Only bytes are copied: not times, not attributes.
+  /// A target that already holds them is not written, but is renamed where its spelling differs.
+  virtual CopyOutcome copy_file(std::string_view source, std::string_view target, Durability durability) = 0;
+
+  /// Deletes the file.
+  virtual void remove_file(std::string_view path) = 0;
+
+  /// Starts a program in a normal, focused window with `folder` as its current folder and does not wait for
+  /// it. On POSIX a Windows program (one that begins with "MZ") is started through Wine.
+  virtual void start_program(std::string_view path, std::string_view folder) = 0;
+
+  /// Called between the steps of long operations, so that the screen can be kept alive.
+  using Pulse = std::function<void()>;
+
+  /// The span of one action of the program. While it lives the file system may remember the names in the
+  /// folders it has read, keeping them in step with what is written through it, so that working through a
+  /// folder of N files costs O(N); and it calls `pulse` at least every 8 MiB of a copied file. Without an
+  /// Action every call asks the disk afresh. Actions do not nest.
+  class Action {
+   public:
+    explicit Action(FileSystem& files, Pulse pulse = {});
+    ~Action();
+    Action(const Action&) = delete;
+    Action& operator=(const Action&) = delete;
+
+   private:
+    FileSystem& files_;
+  };
+
+ protected:
+  friend class Action;
+  virtual void begin_action(Pulse pulse) = 0;
+  virtual void end_action() = 0;
+};
+
+/// The bare name under which the content of `target` (a bare name) is written before it is renamed.
+/// One fixed name a folder, ending in ".bak" so that the clean-up sweeps what a crash left; the next write
+/// in the folder takes it over.
+std::string_view neighbour_name(std::string_view target);
+
+/// The file system of the platform the program was built for.
+std::unique_ptr<FileSystem> make_platform_file_system();
+
+}  // namespace vorlund

@@ -1,0 +1,32 @@
+// Reads, patches and replaces a file as one step.
+#include "core/patch_file.h"
+
+namespace vorlund {
+
+void PatchedBytes::put(std::size_t offset, std::uint8_t value) {
+  const char byte = static_cast<char>(value);
+  put(offset, std::string_view(&byte, 1));
+}
+
+void PatchedBytes::put(std::size_t offset, std::string_view run) {
+  if (run.empty()) return;
+  if (bytes_.size() < offset + run.size()) bytes_.resize(offset + run.size(), '\0');
+  bytes_.replace(offset, run.size(), run);
+}
+
+void patch_file(FileSystem& files, std::string_view path, const std::function<void(PatchedBytes&)>& patch) {
+  const bool existed = files.FileExists(path);
+  PatchedBytes content(existed ? files.read_file(path) : std::string());
+  const auto keep = [&] {
+    if (!existed || content.changed()) files.replace_file(path, content.bytes(), Durability::kCached);
+  };
+  try {
+    patch(content);
+  } catch (...) {
+    keep();
+    throw;
+  }
+  keep();
+}
+
+}  // namespace vorlund

@@ -1,0 +1,35 @@
+// How a running action is seen from outside; the core knows no screen.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace vorlund {
+
+/// How far a long action has got.
+struct Progress {
+  std::string_view file;   ///< bare name of the file at hand
+  std::uint64_t done = 0;  ///< files finished
+  std::uint64_t total = 0;
+};
+
+/// Observes actions. The defaults ignore everything.
+class Status {
+ public:
+  virtual ~Status() = default;
+
+  /// The controls have changed in the middle of an action: show them at once.
+  virtual void repaint() {}
+
+  /// A long action has reached a file. Called for each file; the observer decides how often to paint.
+  virtual void progress(const Progress&) {}
+
+  /// A long action goes on with the file at hand.
+  virtual void pulse() {}
+
+  /// What an action has come to, in plain words, for the status line.
+  virtual void outcome(std::string_view) {}
+};
+
+}  // namespace vorlund
