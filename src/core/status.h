@@ -1,7 +1,6 @@
 // How a running action is seen from outside; the core knows no screen.
 #pragma once
 
-#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -9,9 +8,8 @@ namespace vorlund {
 
 /// How far a long action has got.
 struct Progress {
-  std::string_view file;   ///< bare name of the file at hand
-  std::uint64_t done = 0;  ///< files finished
-  std::uint64_t total = 0;
+  std::string_view file;  ///< bare name of the file at hand
+  double fraction = 0;    ///< share of the work that is done, 0 to 1
 };
 
 /// Observes actions. The defaults ignore everything.

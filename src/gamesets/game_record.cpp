@@ -1,0 +1,38 @@
+// Writes and reads the text form of the game table.
+#include "gamesets/game_record.h"
+
+#include <string>
+#include <vector>
+
+#include "core/code_page.h"
+#include "core/store.h"
+#include "core/text.h"
+
+namespace vorlund {
+
+void write_game_set(FileSystem& files, std::string_view path, const GameTable& table) {
+  std::string text;
+  for (int row = 0; row < table.G2.row_count(); ++row) {
+    text += table.G2.cell(row, GameTable::kGroup);
+    text += '\t';
+    text += table.G2.cell(row, GameTable::kFolder);
+    text += "\r\n";
+  }
+  files.replace_file(path, encode_text(text), Durability::kFlushed);
+}
+
+void read_game_set(FileSystem& files, std::string_view path, GameTable& table) {
+  const std::string text = decode_text(files.read_file(path));
+  table.clear();
+  for (const std::string_view line : split_lines(text)) {
+    const std::vector<std::string_view> cells = split_cells(line);
+    table.G2.add_row({cells.begin(), cells.end()});
+  }
+  table.g2update();
+}
+
+void SaveGS(Environment& environment, const GameTable& table) {
+  write_game_set(environment.files, environment.game.path(kCurrentGameSet), table);
+}
+
+}  // namespace vorlund
