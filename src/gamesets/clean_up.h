@@ -1,0 +1,35 @@
+// The clean-up's work on files: career saves go home, installed loose files are deleted.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "core/environment.h"
+#include "core/listing.h"
+#include "gamesets/game_table.h"
+
+namespace vorlund {
+
+/// What a clean-up came to.
+struct CleanUpSummary {
+  std::uint64_t careers = 0;  ///< career saves moved home
+  std::uint64_t deleted = 0;  ///< loose files deleted
+
+  /// One line for the player.
+  std::string sentence() const;
+};
+
+/// Index of the last row whose group is exactly "Careers"; 0 when there is none.
+int careers_row(const GameTable& table);
+
+/// Moves the career saves ("c*.sve" in "Savedata") into the folder that the careers row names, then deletes
+/// from the game directory itself the loose files that sets put there. `savedata` is the listing of
+/// "Savedata"; its pattern is restored. A save is deleted from "Savedata" only when its copy is on the disk.
+/// An error ends the action; running it again completes it.
+CleanUpSummary clean_game_directory(Environment& environment, const GameTable& table, FileList& savedata);
+
+/// Deletes the files that the listing of "Savedata" holds, one after the other; returns how many.
+std::uint64_t delete_listed_missions(Environment& environment, FileList& savedata);
+
+}  // namespace vorlund

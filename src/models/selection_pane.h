@@ -1,0 +1,96 @@
+// The selection pane: browses a two-level store and puts a chosen folder into the table of the running work.
+#pragma once
+
+#include <array>
+#include <string>
+#include <vector>
+
+#include "aircraft/plane_pane.h"
+#include "core/environment.h"
+#include "core/listing.h"
+#include "core/picture.h"
+#include "gamesets/game_pane.h"
+#include "models/flight_model_lists.h"
+
+namespace vorlund {
+
+/// What the group labels of the selection pane stand for: the last main-menu entry chosen, by its index.
+enum class PaneMode { kAircraftSet = 0, kGameSet = 1, kFlightModelGroup = 2 };
+
+/// State and event handlers of `Frame3`, of the group labels beside it and of the labels that bring the
+/// tables back.
+class SelectionPane {
+ public:
+  SelectionPane(Environment& environment, GamePane& game, PlanePane& plane, FlightModelLists& lists);
+
+  PaneMode mode = PaneMode::kAircraftSet;
+  std::string current_group;      ///< caption of the group label last clicked
+  std::string current_selection;  ///< caption of the selection label last clicked
+
+  /// Room that the window has for panes, kept by the window.
+  Place screen{0, 0, 19200, 10800};
+
+  std::vector<Label> Label1;  ///< group labels; element 0 always exists
+  FolderList Dir1;            ///< groups of the store that is browsed
+  FolderList Dir5;            ///< flight-model groups
+  std::vector<Label> SelLab;  ///< folders of the opened group; element 0 always exists
+
+  Frame Frame3;
+  TextBox Text1{"", false};  ///< description of the shown selection
+  Picture Image1;            ///< its picture; a click chooses the selection
+  Picture Image3;            ///< fills the pane; a click hides it
+  std::array<Label, 2> Label27{{{"Hide picture", false}, {"Show/hide details", false}}};
+  Label Label41{"Bring the table to the front", false};
+  Label Label10{"Hide"};  ///< element 2 of the "Hide" labels
+
+  /// Loads the next element of `Label1`: below the one before it, or at the top of a new column.
+  void Label1Make();
+
+  /// Makes one shown group label for each name, element 0 for the first.
+  void make_group_labels(const std::vector<std::string>& names);
+
+  /// Removes all group labels but element 0.
+  void remove_group_labels();
+
+  /// Caption of the group label with the highest index.
+  const std::string& last_group() const { return Label1.back().caption; }
+
+  /// Opens group `index`, or in `kFlightModelGroup` makes it the current flight-model group.
+  void Label1_Click(int index);
+
+  /// Lists the folders of a group of the running work's store into `SelLab` and makes it the current group.
+  void list_group(const std::string& group);
+
+  /// Shows the description, picture and slot of selection `index`.
+  void SelLab_Click(int index);
+  void SelLab_DblClick() { DoSel(); }
+  void Image1_Click() { DoSel(); }
+
+  /// Puts the shown selection into the table of the running work. Without a selection it does nothing.
+  void DoSel();
+
+  /// Marks the selection labels whose folders are in use.
+  void ShowSelected();
+
+  void Label27_Click(int index);
+  void Frame3_Click();
+  void Image3_Click();
+  void Label41_Click();
+  void Label2_Click();
+  void Label10_Click();
+
+ private:
+  std::string group_folder() const;
+  void show_slot(const std::string& folder);
+  void choose_skin();
+  void choose_game_folder();
+
+  Environment& environment_;
+  GamePane& game_;
+  PlanePane& plane_;
+  FlightModelLists& lists_;
+  int group_top_ = 900;
+  bool details_wanted_ = true;
+};
+
+}  // namespace vorlund

@@ -1,0 +1,174 @@
+// Painting and events of a label that acts.
+#include "ui/window/action_label.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QToolTip>
+
+#include "ui/window/theme.h"
+
+namespace vorlund {
+
+namespace {
+
+int key_state(Qt::KeyboardModifiers modifiers) {
+  return (modifiers.testFlag(Qt::ShiftModifier) ? 1 : 0) + (modifiers.testFlag(Qt::ControlModifier) ? 2 : 0) +
+         (modifiers.testFlag(Qt::AltModifier) ? 4 : 0);
+}
+
+bool activates(const QKeyEvent& event) {
+  return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter || event.key() == Qt::Key_Space;
+}
+
+}  // namespace
+
+MouseEvent to_model(Qt::MouseButton button, Qt::KeyboardModifiers modifiers, const QPointF& position) {
+  MouseEvent event;
+  event.button = button == Qt::RightButton    ? MouseButton::kRight
+                 : button == Qt::MiddleButton ? MouseButton::kMiddle
+                                              : MouseButton::kLeft;
+  event.shift = key_state(modifiers);
+  event.x = theme::twips(position.x());
+  event.y = theme::twips(position.y());
+  return event;
+}
+
+ActionLabel::ActionLabel(const QString& name, Look look, QWidget* parent, Drag drag)
+    : QAbstractButton(parent), look_(look), drag_(drag), text_colour_(theme::kText) {
+  setObjectName(name);
+  setFocusPolicy(Qt::StrongFocus);
+  setCursor(Qt::PointingHandCursor);
+  setAttribute(Qt::WA_Hover);
+}
+
+void ActionLabel::apply(const Label& label) {
+  const QString caption = QString::fromStdString(label.caption);
+  if (text() != caption) {
+    setText(caption);
+    setAccessibleName(caption);
+    updateGeometry();
+  }
+  const QColor colour = QColor::fromRgb(label.text_colour);
+  if (text_colour_ != colour) {
+    text_colour_ = colour;
+    update();
+  }
+  setVisible(label.visible);
+}
+
+QSize ActionLabel::sizeHint() const {
+  const QFontMetrics metrics = fontMetrics();
+  return {metrics.horizontalAdvance(text()) + 2 * metrics.height(), metrics.height() * 2};
+}
+
+QColor ActionLabel::fill() const {
+  const bool lit = isEnabled() && (underMouse() || isDown());
+  switch (look_) {
+    case Look::kPlate:
+      return lit ? theme::kPlateHover : theme::kPlate;
+    case Look::kButton:
+      return lit ? theme::kButtonHover : theme::kButton;
+    case Look::kPrimary:
+      return lit ? theme::kAccent.lighter(115) : theme::kAccent;
+    case Look::kRow:
+      return lit ? theme::kPlateHover : QColor(0, 0, 0, 0);
+  }
+  return {};
+}
+
+QRect ActionLabel::text_area() const {
+  const int margin = fontMetrics().height() * 2 / 3;
+  return rect().adjusted(margin, 0, -margin, 0);
+}
+
+bool ActionLabel::event(QEvent* event) {
+  const bool cut = fontMetrics().horizontalAdvance(text()) > text_area().width();
+  if (event->type() == QEvent::ToolTip && cut && toolTip().isEmpty()) {
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), text(), this);
+    return true;
+  }
+  return QAbstractButton::event(event);
+}
+
+void ActionLabel::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  const bool marked = text_colour_ != theme::kText && text_colour_ != QColor(Qt::white);
+  theme::draw_plate(painter, rect(), fill(), hasFocus() ? theme::kAccent : QColor(0, 0, 0, 0));
+  painter.setPen(look_ == Look::kPrimary ? theme::kField : marked ? text_colour_ : theme::kText);
+  if (marked || look_ == Look::kPrimary) {
+    QFont bold = font();
+    bold.setBold(true);
+    painter.setFont(bold);
+  }
+  const QRect area = text_area();
+  const bool centred = look_ == Look::kButton || look_ == Look::kPrimary;
+  const QString shown = painter.fontMetrics().elidedText(text(), Qt::ElideRight, area.width());
+  painter.drawText(area, Qt::AlignVCenter | (centred ? Qt::AlignHCenter : Qt::AlignLeft), shown);
+}
+
+void ActionLabel::mousePressEvent(QMouseEvent* event) {
+  if (held_ != Qt::NoButton) return;
+  held_ = event->button();
+  pressed_at_ = event->globalPosition();
+  place_at_press_ = pos();
+  setDown(held_ == Qt::LeftButton);
+  if (on_press) on_press(to_model(held_, event->modifiers(), event->position()));
+}
+
+void ActionLabel::mouseMoveEvent(QMouseEvent* event) {
+  if (held_ == Qt::RightButton && drag_ == Drag::kRightButton) {
+    move(place_at_press_ + (event->globalPosition() - pressed_at_).toPoint());
+  } else if (held_ == Qt::LeftButton) {
+    setDown(rect().contains(event->position().toPoint()));
+  }
+}
+
+void ActionLabel::mouseReleaseEvent(QMouseEvent* event) {
+  if (event->button() != held_) return;
+  held_ = Qt::NoButton;
+  setDown(false);
+  // While it is dragged the label moves under the pointer: its place at the press is what positions count
+  // from.
+  const QPointF position =
+      event->button() == Qt::RightButton && drag_ == Drag::kRightButton
+          ? event->globalPosition() - parentWidget()->mapToGlobal(QPointF(place_at_press_))
+          : event->position();
+  const bool inside = rect().contains(position.toPoint());
+  if (event->button() == Qt::RightButton ? drag_ == Drag::kNo && !inside : !inside) return;
+  if (on_release) on_release(to_model(event->button(), event->modifiers(), position));
+}
+
+void ActionLabel::mouseDoubleClickEvent(QMouseEvent* event) {
+  if (on_double_click && event->button() == Qt::LeftButton) {
+    on_double_click();
+  } else {
+    mousePressEvent(event);
+  }
+}
+
+void ActionLabel::keyPressEvent(QKeyEvent* event) {
+  if (activates(*event)) {
+    if (!event->isAutoRepeat() && on_release) {
+      on_release(to_model(Qt::LeftButton, event->modifiers(), QPointF(rect().center())));
+    }
+    return;
+  }
+  QAbstractButton::keyPressEvent(event);
+}
+
+void ActionLabel::keyReleaseEvent(QKeyEvent* event) {
+  if (!activates(*event)) QAbstractButton::keyReleaseEvent(event);
+}
+
+void ActionLabel::enterEvent(QEnterEvent* event) {
+  update();
+  QAbstractButton::enterEvent(event);
+}
+
+void ActionLabel::leaveEvent(QEvent* event) {
+  update();
+  QAbstractButton::leaveEvent(event);
+}
+
+}  // namespace vorlund

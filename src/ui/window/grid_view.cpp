@@ -1,0 +1,134 @@
+// The table model over a grid, and the view's mouse and keyboard.
+#include "ui/window/grid_view.h"
+
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <algorithm>
+
+#include "ui/window/theme.h"
+
+namespace vorlund {
+
+void GridModel::refresh() {
+  std::vector<int> shown;
+  for (int row = 1; row < grid_.row_count(); ++row) {
+    if (!grid_.rows[static_cast<std::size_t>(row)].hidden) shown.push_back(row);
+  }
+  if (shown == shown_ && columns_ == grid_.columns) {
+    if (!shown_.empty()) emit dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
+    return;
+  }
+  beginResetModel();
+  shown_ = std::move(shown);
+  columns_ = grid_.columns;
+  endResetModel();
+}
+
+int GridModel::grid_row(int table_row) const {
+  return table_row < 0 || table_row >= rowCount() ? 0 : shown_[static_cast<std::size_t>(table_row)];
+}
+
+int GridModel::table_row(int grid_row) const {
+  const auto found = std::lower_bound(shown_.begin(), shown_.end(), grid_row);
+  return found == shown_.end() || *found != grid_row ? -1 : static_cast<int>(found - shown_.begin());
+}
+
+int GridModel::rowCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : static_cast<int>(shown_.size());
+}
+
+int GridModel::columnCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : columns_;
+}
+
+QVariant GridModel::data(const QModelIndex& index, int role) const {
+  const int row = grid_row(index.row());
+  switch (role) {
+    case Qt::DisplayRole:
+    case Qt::ToolTipRole:
+      return QString::fromStdString(grid_.cell(row, index.column()));
+    case Qt::ForegroundRole:
+      if (cycles && cycles(row, index.column())) return theme::kAccent;
+      return index.column() == 0 ? theme::kQuietText : theme::kText;
+    default:
+      return {};
+  }
+}
+
+QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {
+  if (orientation != Qt::Horizontal) return {};
+  if (role == Qt::DisplayRole) return QString::fromStdString(grid_.cell(0, section));
+  if (role == Qt::TextAlignmentRole) return int(Qt::AlignLeft | Qt::AlignVCenter);
+  return {};
+}
+
+GridView::GridView(const QString& name, const Grid& grid, QWidget* parent)
+    : QTableView(parent), grid_(grid), model_(grid) {
+  setObjectName(name);
+  setAccessibleName(name);
+  setModel(&model_);
+  setSelectionMode(SingleSelection);
+  setSelectionBehavior(SelectRows);
+  setEditTriggers(NoEditTriggers);
+  setAlternatingRowColors(true);
+  setHorizontalScrollMode(ScrollPerPixel);
+  setCursor(Qt::ArrowCursor);
+  setWordWrap(false);
+  setTabKeyNavigation(false);
+  verticalHeader()->hide();
+  verticalHeader()->setDefaultSectionSize(fontMetrics().height() * 7 / 4);
+  horizontalHeader()->setHighlightSections(false);
+  horizontalHeader()->setStretchLastSection(true);
+}
+
+void GridView::apply() {
+  applying_ = true;
+  model_.refresh();
+  const int row = model_.table_row(grid_.row);
+  const QModelIndex wanted = row < 0 ? QModelIndex() : model_.index(row, std::max(grid_.column, 0));
+  if (currentIndex() != wanted || (row >= 0 && !selectionModel()->isRowSelected(row))) {
+    if (row < 0) {
+      clearSelection();
+      setCurrentIndex({});
+    } else {
+      setCurrentIndex(wanted);
+      scrollTo(wanted);
+    }
+  }
+  applying_ = false;
+}
+
+void GridView::fit_columns() {
+  for (int column = 0; column < grid_.columns; ++column) {
+    const std::size_t index = static_cast<std::size_t>(column);
+    const int given = index < grid_.column_widths.size() ? theme::pixels(grid_.column_widths[index]) : 0;
+    const int header = fontMetrics().horizontalAdvance(QString::fromStdString(grid_.cell(0, column))) + 26;
+    setColumnWidth(column, std::max(given, header));
+  }
+}
+
+void GridView::mousePressEvent(QMouseEvent* event) {
+  const QModelIndex index = indexAt(event->position().toPoint());
+  setFocus(Qt::MouseFocusReason);
+  if (event->button() == Qt::LeftButton && index.isValid() && on_click) {
+    on_click(model_.grid_row(index.row()), index.column());
+  }
+}
+
+void GridView::mouseMoveEvent(QMouseEvent*) {}
+
+void GridView::keyPressEvent(QKeyEvent* event) {
+  const bool activates =
+      event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter || event->key() == Qt::Key_Space;
+  const QModelIndex before = currentIndex();
+  if (activates) {
+    if (before.isValid() && on_click) on_click(model_.grid_row(before.row()), before.column());
+    return;
+  }
+  QTableView::keyPressEvent(event);
+  const QModelIndex now = currentIndex();
+  if (now.isValid() && now != before && on_move) on_move(model_.grid_row(now.row()), now.column());
+}
+
+}  // namespace vorlund

@@ -1,0 +1,68 @@
+// Shows a grid of the model as a table: the header row as the table's header, hidden rows left out.
+#pragma once
+
+#include <QAbstractTableModel>
+#include <QTableView>
+#include <functional>
+#include <vector>
+
+#include "core/controls.h"
+
+namespace vorlund {
+
+/// The shown data rows of a Grid as a Qt model; nothing is copied.
+class GridModel : public QAbstractTableModel {
+ public:
+  explicit GridModel(const Grid& grid, QObject* parent = nullptr)
+      : QAbstractTableModel(parent), grid_(grid) {}
+
+  /// Takes over what has changed in the grid.
+  void refresh();
+
+  /// Grid row of a table row, and table row of a grid row (-1 where it is hidden).
+  int grid_row(int table_row) const;
+  int table_row(int grid_row) const;
+
+  int rowCount(const QModelIndex& parent = {}) const override;
+  int columnCount(const QModelIndex& parent = {}) const override;
+  QVariant data(const QModelIndex& index, int role) const override;
+  QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+  /// Says of a cell whether a click cycles its value; such cells look as if they did.
+  std::function<bool(int row, int column)> cycles;
+
+ private:
+  const Grid& grid_;
+  std::vector<int> shown_;
+  int columns_ = 0;
+};
+
+/// A table whose current cell is the grid's. Clicks, arrow keys, Enter and Space are handed back.
+class GridView : public QTableView {
+ public:
+  GridView(const QString& name, const Grid& grid, QWidget* parent);
+
+  /// The current cell was moved with the keyboard.
+  std::function<void(int row, int column)> on_move;
+  /// A cell was clicked, or Enter or Space pressed on it; row 0 is the header.
+  std::function<void(int row, int column)> on_click;
+
+  GridModel& grid_model() { return model_; }
+
+  void apply();
+
+  /// Minimum column widths in pixels fit for the content, on top of the grid's own widths.
+  void fit_columns();
+
+ protected:
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  const Grid& grid_;
+  GridModel model_;
+  bool applying_ = false;
+};
+
+}  // namespace vorlund

@@ -1,0 +1,227 @@
+// Applies state after every event, shows progress while an action runs, and ends the program.
+#include "ui/window/main_window.h"
+
+#include <QApplication>
+#include <QHBoxLayout>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScreen>
+#include <algorithm>
+
+#include "ui/window/action_label.h"
+#include "ui/window/directory_view.h"
+#include "ui/window/game_pane_view.h"
+#include "ui/window/group_labels_view.h"
+#include "ui/window/menu_view.h"
+#include "ui/window/picture_view.h"
+#include "ui/window/selection_pane_view.h"
+#include "ui/window/theme.h"
+#include "version.h"
+
+namespace vorlund {
+
+namespace {
+
+constexpr int kStatusHeight = 34;
+constexpr int kPaintEveryMilliseconds = 50;
+constexpr QSize kUsualSize{1280, 800};
+constexpr QSize kSmallestSize{960, 560};
+
+}  // namespace
+
+MainWindow::MainWindow(FileSystem& files, std::function<void(const QString&)> report_error)
+    : report_error_(std::move(report_error)),
+      form_(std::make_unique<Form1>(files, *this, Version{kVersionMajor, kVersionMinor, kVersionRevision})) {
+  setObjectName("Form1");
+  setWindowTitle("Vorlund");
+  setMinimumSize(kSmallestSize);
+  status_bar_ = new QWidget(this);
+  status_bar_->setStyleSheet("background: #111820;");
+  status_bar_->setAttribute(Qt::WA_StyledBackground);
+  status_text_ = new QLabel(status_bar_);
+  status_text_->setObjectName("StatusLine");
+  status_text_->setTextFormat(Qt::PlainText);
+  status_text_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  progress_text_ = new QLabel(status_bar_);
+  progress_text_->setObjectName("ProgressFile");
+  progress_text_->setTextFormat(Qt::PlainText);
+  progress_bar_ = new QProgressBar(status_bar_);
+  progress_bar_->setObjectName("Progress");
+  progress_bar_->setRange(0, 1000);
+  progress_bar_->setTextVisible(false);
+  progress_bar_->setFixedSize(240, 14);
+  auto* layout = new QHBoxLayout(status_bar_);
+  layout->setContentsMargins(18, 0, 18, 0);
+  layout->addWidget(status_text_, 1);
+  layout->addWidget(progress_text_);
+  layout->addWidget(progress_bar_);
+  progress_bar_->hide();
+  progress_text_->hide();
+  add_views();
+}
+
+MainWindow::~MainWindow() = default;
+
+void MainWindow::add_views() {
+  const Perform perform = [this](const std::function<void()>& handler) { this->perform(handler); };
+  const auto add = [this](auto view) {
+    auto* raw = view.get();
+    views_.push_back(std::move(view));
+    return raw;
+  };
+  add(std::make_unique<GroupLabelsView>(*form_, perform, this));
+  menu_ = add(std::make_unique<MenuView>(*form_, perform, this));
+  add(std::make_unique<DirectoryView>(*form_, perform, this));
+  auto* selection = add(std::make_unique<SelectionPaneView>(*form_, perform, this));
+  auto* game = add(std::make_unique<GamePaneView>(*form_, perform, this));
+  frames_ = {{&selection->frame(), &form_->selection.Frame3}, {&game->frame(), &form_->game.GameFrame}};
+}
+
+bool MainWindow::start() {
+  const QRect room = screen()->availableGeometry();
+  const QPoint corner = theme::pixels(form_->place).topLeft() + room.topLeft();
+  resize(kUsualSize.boundedTo(room.size() - QSize(2 * 66, 100)).expandedTo(kSmallestSize));
+  move(corner);
+  started_ = true;
+  perform([this] { form_->Form_Load(); });
+  if (!failed_) show();
+  return !failed_;
+}
+
+void MainWindow::perform(const std::function<void()>& handler) {
+  if (running_ || failed_ || form_->ended) return;
+  running_ = true;
+  painted_.start();
+  try {
+    handler();
+    progress_bar_->hide();
+    progress_text_->hide();
+    apply();
+    running_ = false;
+    follow_requests();
+  } catch (const std::exception& error) {
+    report(error);
+  }
+  running_ = false;
+}
+
+void MainWindow::report(const std::exception& error) {
+  failed_ = true;
+  report_error_(QString::fromStdString(error.what()));
+  QCoreApplication::exit(1);
+}
+
+void MainWindow::follow_requests() {
+  if (form_->ended) QCoreApplication::exit(0);
+  if (form_->minimise_wanted) {
+    form_->minimise_wanted = false;
+    showMinimized();
+  }
+}
+
+void MainWindow::apply() {
+  if (!started_) return;
+  form_->selection.screen = {0, 0, theme::twips(width()), theme::twips(height() - kStatusHeight)};
+  if (form_->selection.Frame3.visible) form_->selection.Frame3.place = form_->selection.screen;
+  for (const auto& view : views_) view->apply();
+  apply_order();
+  status_bar_->setGeometry(0, height() - kStatusHeight, width(), kStatusHeight);
+  status_text_->setText(QString::fromStdString(form_->status_line().caption));
+  status_text_->setVisible(progress_bar_->isHidden());
+  update();
+}
+
+void MainWindow::apply_order() {
+  std::vector<int> order;
+  for (const auto& [widget, frame] : frames_) order.push_back(frame->depth);
+  if (order == shown_order_) return;
+  shown_order_ = order;
+  std::vector<std::pair<PaneFrame*, const Frame*>> sorted = frames_;
+  std::stable_sort(sorted.begin(), sorted.end(),
+                   [](const auto& a, const auto& b) { return a.second->depth < b.second->depth; });
+  for (const auto& [widget, frame] : sorted) {
+    widget->raise();
+    if (frame == &form_->selection.Frame3) menu_->raise_table_labels();
+  }
+  status_bar_->raise();
+}
+
+void MainWindow::repaint() {
+  apply();
+  QWidget::repaint();
+  keep_alive();
+}
+
+void MainWindow::progress(const Progress& progress) {
+  if (progress_bar_->isVisible() && painted_.elapsed() < kPaintEveryMilliseconds) return;
+  status_text_->hide();
+  progress_bar_->setValue(static_cast<int>(progress.fraction * 1000));
+  progress_bar_->show();
+  progress_text_->setText(
+      QString::fromUtf8(progress.file.data(), static_cast<qsizetype>(progress.file.size())));
+  progress_text_->show();
+  keep_alive();
+}
+
+void MainWindow::pulse() {
+  if (painted_.elapsed() >= kPaintEveryMilliseconds) keep_alive();
+}
+
+void MainWindow::keep_alive() {
+  painted_.restart();
+  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+void MainWindow::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  const QSize device = (QSizeF(size()) * devicePixelRatioF()).toSize();
+  if (background_for_ != device) {
+    background_ = decode_picture(form_->background, device, PictureFit::kCover);
+    background_.setDevicePixelRatio(devicePixelRatioF());
+    background_for_ = device;
+  }
+  painter.fillRect(rect(), theme::kPanel);
+  if (background_.isNull()) return;
+  const QSizeF drawn = background_.deviceIndependentSize();
+  painter.drawPixmap(QPointF((width() - drawn.width()) / 2, (height() - drawn.height()) / 2), background_);
+}
+
+void MainWindow::resizeEvent(QResizeEvent*) {
+  if (!running_) apply();
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+  if (running_) {
+    event->ignore();
+    return;
+  }
+  form_->ended = true;
+  event->accept();
+}
+
+void MainWindow::mousePressEvent(QMouseEvent* event) {
+  pressed_ = true;
+  pressed_at_ = event->globalPosition();
+  place_at_press_ = pos();
+  form_->place.left = theme::twips(pos().x());
+  form_->place.top = theme::twips(pos().y());
+  const MouseEvent pressed = to_model(event->button(), event->modifiers(), event->position());
+  perform([&] { form_->Form_MouseDown(pressed); });
+}
+
+void MainWindow::mouseMoveEvent(QMouseEvent* event) {
+  if (pressed_) move(place_at_press_ + (event->globalPosition() - pressed_at_).toPoint());
+}
+
+void MainWindow::mouseReleaseEvent(QMouseEvent* event) {
+  if (!pressed_) return;
+  pressed_ = false;
+  const QPointF moved = event->globalPosition() - pressed_at_;
+  const QPointF pressed_position =
+      pressed_at_ - (QPointF(place_at_press_) + QPointF(geometry().topLeft() - pos()));
+  const MouseEvent released = to_model(event->button(), event->modifiers(), pressed_position + moved);
+  perform([&] { form_->Form_MouseUp(released); });
+  move(theme::pixels(form_->place).topLeft());
+}
+
+}  // namespace vorlund

@@ -1,0 +1,78 @@
+// Painting, placing and dragging of a pane.
+#include "ui/window/pane_frame.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+#include <algorithm>
+
+#include "ui/window/action_label.h"
+#include "ui/window/theme.h"
+
+namespace vorlund {
+
+PaneFrame::PaneFrame(const QString& name, FreeArea free_area, QWidget* parent)
+    : QWidget(parent), free_area_(free_area), content_(new QVBoxLayout(this)) {
+  setObjectName(name);
+  setCursor(free_area == FreeArea::kMoves ? Qt::SizeAllCursor : Qt::PointingHandCursor);
+  content_->setSpacing(10);
+  hide();
+}
+
+int PaneFrame::title_height() const {
+  return caption_.isEmpty() ? 0 : fontMetrics().height() * 2;
+}
+
+void PaneFrame::apply(const Frame& frame) {
+  caption_ = QString::fromStdString(frame.caption);
+  setAccessibleName(caption_);
+  content_->setContentsMargins(14, title_height() + 12, 14, 14);
+  QRect place = theme::pixels(frame.place);
+  const QSize room = parentWidget()->size();
+  place.setSize(place.size().boundedTo(room).expandedTo(minimumSizeHint().boundedTo(room)));
+  if (!pressed_) {
+    const QPoint furthest(room.width() - 80, room.height() - 40);
+    place.moveTo(std::clamp(place.left(), 80 - place.width(), std::max(furthest.x(), 0)),
+                 std::clamp(place.top(), 0, std::max(furthest.y(), 0)));
+    setGeometry(place);
+  }
+  setVisible(frame.visible);
+}
+
+void PaneFrame::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  theme::draw_plate(painter, rect(), theme::kPanel, theme::kEdge);
+  if (caption_.isEmpty()) return;
+  const QRect title(1, 1, width() - 2, title_height());
+  theme::draw_plate(painter, title, theme::kPanelTitle, QColor(0, 0, 0, 0));
+  QFont bold = font();
+  bold.setBold(true);
+  painter.setFont(bold);
+  painter.setPen(theme::kText);
+  painter.drawText(title.adjusted(13, 0, -13, 0), Qt::AlignVCenter | Qt::AlignLeft, caption_);
+}
+
+void PaneFrame::mousePressEvent(QMouseEvent* event) {
+  pressed_ = true;
+  pressed_at_ = event->globalPosition();
+  place_at_press_ = pos();
+  if (on_press) on_press(to_model(event->button(), event->modifiers(), event->position()));
+}
+
+void PaneFrame::mouseMoveEvent(QMouseEvent* event) {
+  if (pressed_ && free_area_ == FreeArea::kMoves) {
+    move(place_at_press_ + (event->globalPosition() - pressed_at_).toPoint());
+  }
+}
+
+void PaneFrame::mouseReleaseEvent(QMouseEvent* event) {
+  if (!pressed_) return;
+  pressed_ = false;
+  const bool click = rect().contains(event->position().toPoint()) && event->button() == Qt::LeftButton;
+  if (!on_release || (free_area_ == FreeArea::kHides && !click)) return;
+  const QPointF moved = free_area_ == FreeArea::kMoves
+                            ? event->globalPosition() - parentWidget()->mapToGlobal(QPointF(place_at_press_))
+                            : event->position();
+  on_release(to_model(event->button(), event->modifiers(), moved));
+}
+
+}  // namespace vorlund

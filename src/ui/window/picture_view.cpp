@@ -1,0 +1,96 @@
+// Decoding and painting of pictures.
+#include "ui/window/picture_view.h"
+
+#include <QBuffer>
+#include <QImageReader>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+
+#include "ui/window/theme.h"
+
+namespace vorlund {
+
+namespace {
+
+constexpr int kLargestImageMegabytes = 400;
+
+QImage decode(const PictureFile& file, const QSize& size, PictureFit fit) {
+  if (!file.bytes || size.isEmpty()) return {};
+  QByteArray bytes = QByteArray::fromRawData(file.bytes->data(), static_cast<qsizetype>(file.bytes->size()));
+  QBuffer buffer(&bytes);
+  QImageReader reader(&buffer);
+  reader.setDecideFormatFromContent(true);
+  reader.setAutoTransform(true);
+  QImageReader::setAllocationLimit(kLargestImageMegabytes);
+  const Qt::AspectRatioMode mode =
+      fit == PictureFit::kCover ? Qt::KeepAspectRatioByExpanding : Qt::KeepAspectRatio;
+  const QSize natural = reader.size();
+  if (natural.isValid()) {
+    const QSize wanted = natural.scaled(size, mode);
+    if (wanted.width() < natural.width()) reader.setScaledSize(wanted.expandedTo(QSize(1, 1)));
+  }
+  const QImage image = reader.read();
+  return image.isNull() ? image : image.scaled(size, mode, Qt::SmoothTransformation);
+}
+
+}  // namespace
+
+QPixmap decode_picture(const Picture& picture, const QSize& size, PictureFit fit) {
+  QImage image = decode(picture.picture, size, fit);
+  if (image.isNull()) image = decode(picture.fallback, size, fit);
+  return QPixmap::fromImage(image);
+}
+
+PictureView::PictureView(const QString& name, PictureFit fit, QWidget* parent) : QWidget(parent), fit_(fit) {
+  setObjectName(name);
+  setFocusPolicy(Qt::StrongFocus);
+}
+
+void PictureView::apply(const Picture& picture) {
+  const bool same =
+      picture.picture.bytes == picture_.picture.bytes && picture.fallback.bytes == picture_.fallback.bytes;
+  picture_ = picture;
+  if (!same) {
+    shown_for_ = QSize();
+    update();
+  }
+  setVisible(picture.visible);
+}
+
+void PictureView::paintEvent(QPaintEvent*) {
+  const QSize device = (QSizeF(size()) * devicePixelRatioF()).toSize();
+  if (shown_for_ != device) {
+    shown_ = decode_picture(picture_, device, fit_);
+    shown_.setDevicePixelRatio(devicePixelRatioF());
+    shown_for_ = device;
+  }
+  QPainter painter(this);
+  if (!shown_.isNull()) {
+    const QSizeF drawn = shown_.deviceIndependentSize();
+    painter.drawPixmap(QPointF((width() - drawn.width()) / 2, (height() - drawn.height()) / 2), shown_);
+  }
+  if (hasFocus()) theme::draw_plate(painter, rect(), QColor(0, 0, 0, 0), theme::kAccent);
+}
+
+void PictureView::mousePressEvent(QMouseEvent* event) {
+  pressed_ = event->button() == Qt::LeftButton;
+}
+
+void PictureView::mouseReleaseEvent(QMouseEvent* event) {
+  const bool click = pressed_ && rect().contains(event->position().toPoint());
+  pressed_ = false;
+  if (click && on_click) on_click();
+}
+
+void PictureView::keyPressEvent(QKeyEvent* event) {
+  const bool activates =
+      event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter || event->key() == Qt::Key_Space;
+  if (activates && on_click) {
+    on_click();
+  } else {
+    QWidget::keyPressEvent(event);
+  }
+}
+
+}  // namespace vorlund
