@@ -1,0 +1,46 @@
+// A file system that holds its files in memory, so that a fuzz target never touches the disk.
+#pragma once
+
+#include <map>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/file_system.h"
+
+namespace vorlund::fuzz {
+
+/// Files by path, matched without regard to case. A folder exists when a file lies somewhere below it.
+/// Nothing is ever refused but reading, copying or removing what is not there.
+class MemoryFileSystem : public FileSystem {
+ public:
+  std::string current_folder() override { return "C:\\Game"; }
+  bool FileExists(std::string_view path) override;
+  bool FolderExists(std::string_view path) override;
+  std::vector<FolderEntry> entries(std::string_view folder) override;
+  std::string read_file(std::string_view path, std::uint64_t limit = kNoLimit) override;
+  std::uint64_t file_size(std::string_view path) override;
+  void replace_file(std::string_view path, std::string_view bytes, Durability durability) override;
+  CopyOutcome copy_file(std::string_view source, std::string_view target, Durability durability) override;
+  void remove_file(std::string_view path) override;
+  void start_program(std::string_view path, std::string_view folder) override;
+
+  /// Paths of all files, as they were written.
+  std::vector<std::string> paths() const;
+
+ protected:
+  void begin_action(Pulse) override {}
+  void end_action() override {}
+
+ private:
+  struct File {
+    std::string path;
+    std::string bytes;
+  };
+
+  File& file(std::string_view attempted, std::string_view path);
+
+  std::map<std::string, File, std::less<>> files_;  // by path in upper case, single backslashes
+};
+
+}  // namespace vorlund::fuzz

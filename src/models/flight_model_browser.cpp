@@ -1,0 +1,220 @@
+// Prepares the aircraft work, puts flight models into slots and matches skins to them.
+#include "models/flight_model_browser.h"
+
+#include <cmath>
+#include <utility>
+
+#include "aircraft/flight_model_folder.h"
+#include "aircraft/number_text.h"
+#include "aircraft/plane_codes.h"
+#include "aircraft/value_file.h"
+#include "core/code_page.h"
+#include "core/store.h"
+#include "core/text.h"
+
+namespace vorlund {
+
+namespace {
+
+constexpr std::size_t kFlightModelLines = 169;  // the title and the 168 bytes of an aircraft record
+
+std::string quoted(std::string_view name) {
+  return "\"" + std::string(name) + "\"";
+}
+
+double whole_number(std::string_view line) {
+  return std::trunc(leading_number(line)) + 0.0;
+}
+
+const char* role_of(double flags) {
+  const double code = std::fmod(flags, 4);
+  return code == 1 ? "Fighter" : code == 2 ? "Bomber" : code == 3 ? "F/B" : "";
+}
+
+const char* side_of(double flags, double side_bits) {
+  if (flags > 127) return "German";
+  const double code = std::fmod(side_bits, 4);
+  return code == 1 ? "British" : code == 2 ? "American" : code == 3 ? "Allied" : "";
+}
+
+/// The title of a flight model as a cell: a TAB would end the cell when the set is saved.
+std::string title_cell(std::string_view line) {
+  std::string title = decode_text(line);
+  for (char& character : title) {
+    if (character == '\t') character = ' ';
+  }
+  return title;
+}
+
+}  // namespace
+
+FlightModelBrowser::FlightModelBrowser(Environment& environment, PlanePane& plane, SelectionPane& selection,
+                                       PossibleSkins& possible_skins, FlightModelLists& lists)
+    : environment_(environment),
+      plane_(plane),
+      selection_(selection),
+      possible_skins_(possible_skins),
+      lists_(lists) {}
+
+void FlightModelBrowser::DoFM() {
+  selection_.remove_group_labels();
+  selection_.Dir1.open(environment_.files, environment_.game.path(kSkinStore));
+  Dir3.path = flight_model_group_folder(environment_, plane_.table);
+  Dir3.names = Dir3.path.empty() ? std::vector<std::string>() : list_folders(environment_.files, Dir3.path);
+  environment_.labels.Label2.caption = "Show Plane Table";
+  selection_.make_group_labels(selection_.Dir1.names);
+  lists_.List2.items = Dir3.names;
+  lists_.List2.selected = -1;
+  lists_.List2.visible = !Dir3.names.empty();
+  lists_.List3.items.clear();
+  lists_.List3.selected = -1;
+  for (const std::string& code : PlaneCodeSet()) lists_.List3.items.push_back(to_upper(code));
+  plane_.table.fill_slots();
+  plane_.pilot_names.LoadPnames(environment_);
+}
+
+void FlightModelBrowser::Option1_Click(int index) {
+  const auto option = static_cast<PlaneOption>(index);
+  plane_.select_option(option);
+  lists_.show_flight_models();
+  if (option == PlaneOption::kEditMode) lists_.show_plane_codes();
+}
+
+void FlightModelBrowser::List2_Click() {
+  const ListBox& list = lists_.List2;
+  if (list.selected < 0 || static_cast<std::size_t>(list.selected) >= list.items.size()) return;
+  const std::string flight_model = list.items[static_cast<std::size_t>(list.selected)];
+  if (plane_.is_set(PlaneOption::kMatchSkin)) {
+    match_skins(flight_model);
+  } else if (plane_.is_set(PlaneOption::kEditMode) || plane_.is_set(PlaneOption::kFindFlightModel)) {
+    put_into_row(flight_model);
+  }
+}
+
+void FlightModelBrowser::List3_Click() {
+  const int index = lists_.List3.selected;
+  if (index < 0 || static_cast<std::size_t>(index) >= lists_.List3.items.size()) return;
+  PlaneTable& table = plane_.table;
+  if (table.G1.row == 0) {
+    environment_.status.outcome("Nothing was changed: first select a slot in the plane table");
+    return;
+  }
+  table.G1.set_cell(table.G1.row, PlaneTable::kRecordNumber, std::to_string(index));
+}
+
+void FlightModelBrowser::apply_matched_skin() {
+  if (possible_skins_.Label35.caption.empty()) return;
+  plane_.select_option(PlaneOption::kFindFlightModel);
+  List2_Click();
+  plane_.show_in_front();
+  plane_.select_option(PlaneOption::kMatchSkin);
+}
+
+std::vector<FlightModelBrowser::SkinLabel> FlightModelBrowser::open_every_group() {
+  std::vector<SkinLabel> skins;
+  for (std::size_t index = 0; index < selection_.Label1.size(); ++index) {
+    if (!selection_.Label1[index].visible) continue;
+    selection_.Label1_Click(static_cast<int>(index));
+    for (const Label& label : selection_.SelLab) skins.push_back({selection_.current_group, label.caption});
+  }
+  return skins;
+}
+
+void FlightModelBrowser::match_skins(const std::string& flight_model) {
+  if (selection_.mode != PaneMode::kAircraftSet) {
+    environment_.status.outcome(
+        "Skins are matched in the aircraft settings alone: open them from the menu first");
+    return;
+  }
+  std::vector<std::string>& found = possible_skins_.List4.items;
+  found.clear();
+  possible_skins_.List4.selected = -1;
+  environment_.labels.SkinLab3.caption.clear();
+  possible_skins_.Label38.caption = flight_model;
+
+  // Deliberate: a group without folders leaves the first selection label as it was, and that label is
+  // compared like any other. The label is blank meanwhile, so that such a group can be told before any label
+  // is filled.
+  std::string left_over = std::exchange(selection_.SelLab.front().caption, "");
+  const std::vector<SkinLabel> skins = open_every_group();
+  std::string& first_label = selection_.SelLab.front().caption;
+  if (first_label.empty()) first_label = left_over;
+
+  std::string beginning = flight_model;
+  std::size_t length = character_count(beginning);
+  for (;;) {
+    for (const SkinLabel& skin : skins) {
+      const std::string& name = skin.folder.empty() ? left_over : skin.folder;
+      if (!name.empty() && name.find(beginning) != std::string::npos)
+        found.push_back(skin.group + "\\" + name);
+    }
+    if (!found.empty() || beginning.empty()) break;
+    length = character_count(beginning);
+    beginning = characters(beginning, 0, length - 1);
+    left_over = first_label;
+  }
+  possible_skins_.Image4.picture = {};
+  possible_skins_.Image4.fallback = load_picture(environment_.files, environment_.game.path(kDefaultPicture));
+  if (found.empty()) {
+    environment_.status.outcome("The skin store has no skin to match with " + quoted(flight_model));
+    return;
+  }
+  // Deliberate: the length before the last cut, so one more than matched unless the whole name did.
+  possible_skins_.Label35.caption = std::to_string(length);
+  plane_.Frame1.visible = false;
+  selection_.Frame3.visible = false;
+  plane_.table.select(plane_.table.G1.row, PlaneTable::kPlaneName);
+  environment_.status.outcome(std::to_string(found.size()) +
+                              (found.size() == 1 ? " skin has " : " skins have ") + quoted(beginning) +
+                              " in the name");
+  possible_skins_.open();
+}
+
+void FlightModelBrowser::put_into_row(const std::string& flight_model) {
+  PlaneTable& table = plane_.table;
+  const int row = table.G1.row;
+  if (row == 0) {
+    environment_.status.outcome("Nothing was changed: first select a slot in the plane table");
+    return;
+  }
+  table.G1.set_cell(row, PlaneTable::kScriptFolder, flight_model);
+  const std::string folder = flight_model_folder(environment_, table, row);
+  if (folder.empty() || !environment_.files.FolderExists(folder)) {
+    environment_.status.outcome("The flight-model group " + quoted(table.flight_model_group()) +
+                                " has no folder " + quoted(flight_model) +
+                                "; only the script folder was set");
+    return;
+  }
+  const std::vector<std::string> models = list_files(environment_.files, folder, "*.oaw");
+  if (models.empty()) {
+    environment_.status.outcome(quoted(flight_model) +
+                                " holds no \".oaw\" file; only the script folder was set");
+    return;
+  }
+  describe(row, environment_.files.read_file(folder + "\\" + models.front(), ValueFile::kLongest),
+           models.front());
+}
+
+void FlightModelBrowser::describe(int row, std::string_view oaw, const std::string& name) {
+  Grid& table = plane_.table.G1;
+  const std::vector<std::string_view> lines = split_lines(oaw);
+  if (lines.size() < kFlightModelLines) {
+    environment_.status.outcome(quoted(name) + " has " + std::to_string(lines.size()) + " lines where " +
+                                std::to_string(kFlightModelLines) +
+                                " are needed; only the script folder was set");
+    return;
+  }
+  table.set_cell(row, PlaneTable::kPlaneName, title_cell(lines[0]));
+  if (table.cell(row, PlaneTable::kRecordNumber).empty()) {
+    table.set_cell(row, PlaneTable::kRecordNumber, number_text(whole_number(lines[1])));
+  }
+  const double flags = whole_number(lines[5]);
+  table.set_cell(row, PlaneTable::kSide, side_of(flags, whole_number(lines[6])));
+  table.set_cell(row, PlaneTable::kFlyable, std::fmod(flags, 8) > 3 ? "Yes" : "No");
+  table.set_cell(row, PlaneTable::kRole, role_of(flags));
+  table.set_cell(row, PlaneTable::kFuel, "100");
+  environment_.status.outcome("Slot " + table.cell(row, PlaneTable::kSlot) + " now flies " +
+                              quoted(table.cell(row, PlaneTable::kScriptFolder)));
+}
+
+}  // namespace vorlund

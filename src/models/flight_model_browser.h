@@ -1,0 +1,65 @@
+// The flight-model browser: puts flight models into slots and finds skins that fit a flight model.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "aircraft/plane_pane.h"
+#include "core/environment.h"
+#include "core/listing.h"
+#include "models/flight_model_lists.h"
+#include "models/possible_skins.h"
+#include "models/selection_pane.h"
+
+namespace vorlund {
+
+/// Event handlers of the option buttons and of the lists beside the plane table. What a click in `List2` does
+/// depends on the option button that is set.
+class FlightModelBrowser {
+ public:
+  /// All outlive the browser.
+  FlightModelBrowser(Environment& environment, PlanePane& plane, SelectionPane& selection,
+                     PossibleSkins& possible_skins, FlightModelLists& lists);
+
+  FolderList Dir3;  ///< folders of the current flight-model group
+
+  /// Prepares the panes for the aircraft work: labels of the skin groups, flight models, plane codes, the
+  /// slots of the plane table and the display names. The pane mode must be set before.
+  void DoFM();
+
+  /// Sets an option button and shows the list that belongs to it.
+  void Option1_Click(int index);
+
+  /// Acts on the selected flight model. "Match skin to selected FM" offers the skins whose names hold the
+  /// longest beginning of the flight model's name. "Edit Mode" and "Find FM for selected slot" put it into
+  /// the current row of the plane table: its folder always, the rest only where its first ".oaw" file has 169
+  /// lines.
+  void List2_Click();
+
+  /// Makes the selected plane code's number the record number of the current row.
+  void List3_Click();
+
+  /// What a click on the picture of a possible skin does after `PossibleSkins::Image4_Click`: once skins were
+  /// matched to a flight model, the selected flight model is put into the current row too.
+  void apply_matched_skin();
+
+ private:
+  struct SkinLabel {
+    std::string group;
+    std::string folder;
+  };
+
+  void match_skins(const std::string& flight_model);
+  std::vector<SkinLabel> open_every_group();
+  void put_into_row(const std::string& flight_model);
+  void describe(int row, std::string_view oaw, const std::string& name);
+
+  Environment& environment_;
+  PlanePane& plane_;
+  SelectionPane& selection_;
+  PossibleSkins& possible_skins_;
+  FlightModelLists& lists_;
+};
+
+}  // namespace vorlund

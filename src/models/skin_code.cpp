@@ -1,0 +1,27 @@
+// Finds the plane code in the names of a skin's files.
+#include "models/skin_code.h"
+
+#include "aircraft/plane_codes.h"
+#include "core/listing.h"
+#include "core/text.h"
+
+namespace vorlund {
+
+std::string first_file_code(const std::vector<FolderEntry>& entries, std::string_view pattern) {
+  const std::string* first = nullptr;
+  for (const FolderEntry& entry : entries) {
+    if (entry.kind != EntryKind::kFile || entry.hidden || !matches_pattern(entry.name, pattern)) continue;
+    if (first == nullptr || name_less(entry.name, *first)) first = &entry.name;
+  }
+  return first == nullptr ? std::string() : to_upper(characters(*first, 1, 4));
+}
+
+int plane_number(std::string_view code) {
+  static const PlaneCodes codes = PlaneCodeSet();
+  for (std::size_t index = 0; index < codes.size(); ++index) {
+    if (same_name(code, codes[index])) return static_cast<int>(index);
+  }
+  return -1;
+}
+
+}  // namespace vorlund
