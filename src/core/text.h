@@ -44,7 +44,8 @@ std::vector<std::string_view> split_lines(std::string_view text);
 std::vector<std::string_view> split_cells(std::string_view line);
 
 /// The number at the start of the text, else 0: blanks and TABs before it are skipped, then an optional sign,
-/// digits with an optional point, and an optional exponent are read.
+/// digits with an optional point, and an optional exponent are read. The point is a point in every locale. A
+/// number too great for a double is the largest double of its sign, one too small is 0.
 double leading_number(std::string_view text);
 
 }  // namespace vorlund

@@ -39,8 +39,8 @@ class TemporaryFolder {
   /// by bytes.
   std::vector<std::string> names(std::string_view folder = "") const;
 
-  /// Every file below, by its relative name with "/" between folders, and its content; a folder without
-  /// files stands as its name and a slash.
+  /// Every file below, by its relative name with "/" between folders, and its content; an empty folder stands
+  /// as its name and a slash, a symbolic link has "-> " and what it points to for its content.
   std::map<std::string, std::string> tree() const;
 
  private:

@@ -1,0 +1,268 @@
+// The one door to the disk on POSIX systems.
+#include <dirent.h>
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <utility>
+
+#include "core/action_error.h"
+#include "core/file_system.h"
+#include "core/posix_content.h"
+#include "core/posix_folder.h"
+#include "core/posix_program.h"
+#include "core/posix_target.h"
+
+namespace vorlund {
+
+namespace {
+
+class PosixFileSystem final : public FileSystem {
+ public:
+  std::string current_folder() override;
+  bool FileExists(std::string_view path) override;
+  bool FolderExists(std::string_view path) override;
+  std::vector<FolderEntry> entries(std::string_view folder) override;
+  std::string read_file(std::string_view path, std::uint64_t limit) override;
+  std::uint64_t file_size(std::string_view path) override;
+  void replace_file(std::string_view path, std::string_view bytes, Durability durability) override;
+  CopyOutcome copy_file(std::string_view source, std::string_view target, Durability durability) override;
+  void remove_file(std::string_view path) override;
+  void start_program(std::string_view path, std::string_view folder) override;
+
+ protected:
+  void begin_action(Pulse pulse) override;
+  void end_action() override;
+
+ private:
+  /// A name in an open folder; no folder, with errno, where the path leads nowhere.
+  struct Place {
+    std::shared_ptr<PosixFolder> folder;
+    std::string name;
+  };
+
+  Place place_of(std::string_view path, EntryKind kind);
+
+  /// Lets `attempt` work on the name as it is spelled, and where there is none, on its other spelling.
+  /// `attempt` returns false, with errno, on failure.
+  template <typename Attempt>
+  bool with_spelling(Place& place, Attempt attempt);
+
+  bool find(std::string_view path, EntryKind kind, struct stat& status);
+  PosixSource open_source(std::string_view path);
+  PosixTarget open_target(std::string_view path);
+
+  PosixFolders folders_;
+  PosixContent content_;
+};
+
+PosixFileSystem::Place PosixFileSystem::place_of(std::string_view path, EntryKind kind) {
+  SplitPath parts = split_path(path);
+  const bool folder_only = !path.empty() && (path.back() == '\\' || path.back() == '/');
+  if (parts.name.empty() || (folder_only && kind == EntryKind::kFile)) {
+    errno = ENOENT;
+    return {};
+  }
+  return {folders_.open(parts.folder), std::move(parts.name)};
+}
+
+template <typename Attempt>
+bool PosixFileSystem::with_spelling(Place& place, Attempt attempt) {
+  if (!place.folder) return false;
+  if (attempt(place.folder->descriptor(), place.name.c_str())) return true;
+  if (errno != ENOENT) return false;
+  auto other = place.folder->other_spelling(place.name);
+  if (!other) return false;
+  place.name = std::move(*other);
+  return attempt(place.folder->descriptor(), place.name.c_str());
+}
+
+bool PosixFileSystem::find(std::string_view path, EntryKind kind, struct stat& status) {
+  Place place = place_of(path, kind);
+  return with_spelling(
+      place, [&status](int folder, const char* name) { return ::fstatat(folder, name, &status, 0) == 0; });
+}
+
+std::string PosixFileSystem::current_folder() {
+  std::string path(256, '\0');
+  while (::getcwd(path.data(), path.size()) == nullptr) {
+    if (errno != ERANGE) throw_system_error("find", "the current folder");
+    path.resize(path.size() * 2);
+  }
+  path.resize(path.find('\0'));
+  return path;
+}
+
+bool PosixFileSystem::FileExists(std::string_view path) {
+  struct stat status {};
+  return find(path, EntryKind::kFile, status) && S_ISREG(status.st_mode);
+}
+
+bool PosixFileSystem::FolderExists(std::string_view path) {
+  struct stat status {};
+  return find(path, EntryKind::kFolder, status) && S_ISDIR(status.st_mode);
+}
+
+/// Tells files from folders; a link counts as what it leads to.
+bool kind_of(int folder, const dirent& entry, EntryKind& kind) {
+  mode_t mode = DTTOIF(entry.d_type);
+  if (entry.d_type == DT_UNKNOWN || entry.d_type == DT_LNK) {
+    struct stat status {};
+    if (::fstatat(folder, entry.d_name, &status, 0) != 0) return false;
+    mode = status.st_mode;
+  }
+  kind = S_ISDIR(mode) ? EntryKind::kFolder : EntryKind::kFile;
+  return S_ISDIR(mode) || S_ISREG(mode);
+}
+
+std::vector<FolderEntry> PosixFileSystem::entries(std::string_view folder) {
+  constexpr std::string_view kAttempted = "list the folder";
+  FileHandle handle;
+  Place place = place_of(folder, EntryKind::kFolder);
+  const bool opened = with_spelling(place, [&handle](int parent, const char* name) {
+    handle = open_at(parent, name, O_RDONLY | O_DIRECTORY);
+    return handle.is_open();
+  });
+  if (!opened && (errno == ENOENT || errno == ENOTDIR)) return {};
+  if (!opened) throw_system_error(kAttempted, folder);
+
+  const std::unique_ptr<DIR, int (*)(DIR*)> stream(::fdopendir(handle.descriptor()), ::closedir);
+  if (!stream) throw_system_error(kAttempted, folder);
+  const int descriptor = handle.release();
+  std::vector<FolderEntry> found;
+  errno = 0;
+  while (const dirent* entry = ::readdir(stream.get())) {
+    const std::string_view name = entry->d_name;
+    EntryKind kind{};
+    const bool wanted = name != "." && name != ".." && name.find('\\') == std::string_view::npos &&
+                        kind_of(descriptor, *entry, kind);
+    if (wanted) found.push_back({std::string(name), kind, name.front() == '.'});
+    errno = 0;
+  }
+  if (errno != 0) throw_system_error(kAttempted, folder);
+  return found;
+}
+
+PosixSource PosixFileSystem::open_source(std::string_view path) {
+  PosixSource source;
+  source.path = path;
+  Place place = place_of(path, EntryKind::kFile);
+  // O_NONBLOCK: a pipe must not hold the program up before it is refused.
+  const bool opened = with_spelling(place, [&source](int folder, const char* name) {
+    source.handle = open_at(folder, name, O_RDONLY | O_NONBLOCK);
+    return source.handle.is_open();
+  });
+  if (!opened || ::fstat(source.handle.descriptor(), &source.status) != 0) throw_system_error("read", path);
+  if (S_ISDIR(source.status.st_mode)) throw_system_error("read", path, EISDIR);
+  if (!S_ISREG(source.status.st_mode)) throw ActionError("read", path, "it is not a regular file");
+  return source;
+}
+
+std::string PosixFileSystem::read_file(std::string_view path, std::uint64_t limit) {
+  const PosixSource source = open_source(path);
+  std::string bytes;
+  // One byte more than the size is asked for, so that the end of the file is met in the first read.
+  std::uint64_t step = std::min(limit, source.size() + 1);
+  while (bytes.size() < limit) {
+    const std::size_t done = bytes.size();
+    bytes.resize(done + static_cast<std::size_t>(std::min(step, limit - done)));
+    const ssize_t got = read_up_to(source.handle.descriptor(), bytes.data() + done, bytes.size() - done);
+    if (got < 0) throw_system_error("read", path);
+    const bool ended = static_cast<std::size_t>(got) < bytes.size() - done;
+    bytes.resize(done + static_cast<std::size_t>(got));
+    if (ended) break;
+    step = 64 * 1024;
+  }
+  return bytes;
+}
+
+std::uint64_t PosixFileSystem::file_size(std::string_view path) {
+  struct stat status {};
+  if (!find(path, EntryKind::kFile, status)) throw_system_error("read", path);
+  if (S_ISDIR(status.st_mode)) throw_system_error("read", path, EISDIR);
+  return static_cast<std::uint64_t>(status.st_size);
+}
+
+PosixTarget PosixFileSystem::open_target(std::string_view path) {
+  Place place = place_of(path, EntryKind::kFile);
+  if (!place.folder) throw_system_error("write", path);
+  return PosixTarget(std::move(place.folder), std::move(place.name), path);
+}
+
+void PosixFileSystem::replace_file(std::string_view path, std::string_view bytes, Durability durability) {
+  PosixTarget target = open_target(path);
+  const int written = target.begin();
+  if (!write_all(written, bytes)) throw_system_error("write", path);
+  target.finish(durability);
+}
+
+CopyOutcome PosixFileSystem::copy_file(std::string_view source_path, std::string_view target_path,
+                                       Durability durability) {
+  const PosixSource source = open_source(source_path);
+  PosixTarget target = open_target(target_path);
+  content_.take(source);
+
+  if (target.readable() >= 0 && target.status().st_size == source.status.st_size) {
+    const bool one_file =
+        target.status().st_dev == source.status.st_dev && target.status().st_ino == source.status.st_ino;
+    if (one_file || content_.same_as(source, target.readable())) {
+      return target.keep() ? CopyOutcome::kUnchanged : CopyOutcome::kWritten;
+    }
+  }
+  content_.write_to(source, target.begin(), target_path);
+  target.finish(durability);
+  return CopyOutcome::kWritten;
+}
+
+void PosixFileSystem::remove_file(std::string_view path) {
+  constexpr std::string_view kAttempted = "delete";
+  Place place = place_of(path, EntryKind::kFile);
+  struct stat status {};
+  const bool found = with_spelling(place, [&status](int folder, const char* name) {
+    return ::fstatat(folder, name, &status, AT_SYMLINK_NOFOLLOW) == 0;
+  });
+  if (!found) throw_system_error(kAttempted, path);
+  refuse_read_only(status, kAttempted, path);
+  if (::unlinkat(place.folder->descriptor(), place.name.c_str(), 0) != 0)
+    throw_system_error(kAttempted, path);
+  place.folder->name_removed(place.name);
+}
+
+void PosixFileSystem::start_program(std::string_view path, std::string_view folder) {
+  const std::string beginning = read_file(path, 2);
+  Place program = place_of(path, EntryKind::kFile);
+  struct stat status {};
+  const bool found = with_spelling(
+      program, [&status](int parent, const char* name) { return ::fstatat(parent, name, &status, 0) == 0; });
+  if (!found) throw_system_error("start", path);
+  std::string spelled = join_path(program.folder->path(), program.name);
+  if (spelled.front() != '/') spelled = join_path(current_folder(), spelled);
+
+  FileHandle start_folder;
+  Place place = place_of(folder, EntryKind::kFolder);
+  const bool opened = with_spelling(place, [&start_folder](int parent, const char* name) {
+    start_folder = open_at(parent, name, O_RDONLY | O_DIRECTORY);
+    return start_folder.is_open();
+  });
+  if (!opened) throw_system_error("start a program in", folder);
+  start_detached(command_for(spelled, beginning), start_folder.descriptor(), path);
+}
+
+void PosixFileSystem::begin_action(Pulse pulse) {
+  content_.set_pulse(std::move(pulse));
+  folders_.remember();
+}
+
+void PosixFileSystem::end_action() {
+  content_.set_pulse({});
+  folders_.forget();
+}
+
+}  // namespace
+
+std::unique_ptr<FileSystem> make_platform_file_system() {
+  return std::make_unique<PosixFileSystem>();
+}
+
+}  // namespace vorlund

@@ -1,0 +1,48 @@
+// Open files of a POSIX system: their handles, whole reads and writes, and the system's error texts.
+#pragma once
+
+#include <sys/stat.h>
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace vorlund {
+
+/// A file descriptor that is closed with its owner; -1 when nothing is open.
+class FileHandle {
+ public:
+  FileHandle() = default;
+  explicit FileHandle(int descriptor) : descriptor_(descriptor) {}
+  ~FileHandle() { close(); }
+  FileHandle(FileHandle&& other) noexcept : descriptor_(other.release()) {}
+  FileHandle& operator=(FileHandle&& other) noexcept;
+
+  int descriptor() const { return descriptor_; }
+  bool is_open() const { return descriptor_ >= 0; }
+
+  /// Closes the file; false, with errno, where the system only now reports that a write failed.
+  bool close();
+
+  /// Gives the descriptor away unclosed.
+  int release();
+
+ private:
+  int descriptor_ = -1;
+};
+
+/// Throws ActionError with the text of the error number (by default errno).
+[[noreturn]] void throw_system_error(std::string_view attempted, std::string_view path);
+[[noreturn]] void throw_system_error(std::string_view attempted, std::string_view path, int error);
+
+/// Opens a name inside an open folder (AT_FDCWD for the current folder), taken up again when a signal breaks
+/// in. Not open, with errno, on failure.
+FileHandle open_at(int folder, const char* name, int flags, mode_t mode = 0);
+
+/// Reads up to `size` bytes, fewer only at the end of the file; -1, with errno, on failure.
+ssize_t read_up_to(int descriptor, char* bytes, std::size_t size);
+
+/// Writes all the bytes; false, with errno, on failure.
+bool write_all(int descriptor, std::string_view bytes);
+
+}  // namespace vorlund

@@ -1,0 +1,138 @@
+// Writes beside the target and renames, so that a crash leaves the old file or the new one.
+#include "core/posix_target.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <utility>
+
+#include "core/action_error.h"
+
+namespace vorlund {
+
+namespace {
+
+constexpr mode_t kAnyWrite = S_IWUSR | S_IWGRP | S_IWOTH;
+constexpr mode_t kPermissions = S_IRWXU | S_IRWXG | S_IRWXO;
+constexpr mode_t kUsualPermissions = kPermissions & ~(S_IXUSR | S_IXGRP | S_IXOTH);
+
+}  // namespace
+
+void refuse_read_only(const struct stat& status, std::string_view attempted, std::string_view path) {
+  if (S_ISREG(status.st_mode) && (status.st_mode & kAnyWrite) == 0) {
+    throw ActionError(attempted, path, "the file is read-only");
+  }
+}
+
+PosixTarget::PosixTarget(std::shared_ptr<PosixFolder> folder, std::string name, std::string_view path)
+    : folder_(std::move(folder)), name_(std::move(name)), path_(path) {
+  auto found = folder_->spellings(name_);
+  if (!found) fail();
+  others_ = std::move(found->others);
+  if (found->exact) {
+    current_ = name_;
+  } else if (!others_.empty()) {
+    current_ = std::move(others_.front());
+    others_.erase(others_.begin());
+  }
+  if (is_there()) look();
+}
+
+PosixTarget::~PosixTarget() {
+  if (!neighbour_.empty()) ::unlinkat(folder_->descriptor(), neighbour_.c_str(), 0);
+}
+
+void PosixTarget::look() {
+  // O_NONBLOCK: a pipe that stands there must not hold the program up.
+  existing_ = open_at(folder_->descriptor(), current_.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK);
+  const int result = existing_.is_open()
+                         ? ::fstat(existing_.descriptor(), &status_)
+                         : ::fstatat(folder_->descriptor(), current_.c_str(), &status_, AT_SYMLINK_NOFOLLOW);
+  if (result != 0 && errno != ENOENT) fail();
+  if (result != 0) current_.clear();
+  if (is_there() && S_ISDIR(status_.st_mode)) {
+    errno = EISDIR;
+    fail();
+  }
+  if (!is_there() || !S_ISREG(status_.st_mode)) existing_.close();
+}
+
+bool PosixTarget::keep() {
+  const bool as_asked = current_ == name_ && others_.empty();
+  if (!as_asked) {
+    refuse_read_only_others();
+    settle_spelling();
+  }
+  return as_asked;
+}
+
+int PosixTarget::begin() {
+  if (is_there()) refuse_read_only(status_, "write", path_);
+  refuse_read_only_others();
+  existing_.close();
+  const bool replaces = is_there() && S_ISREG(status_.st_mode);
+  const mode_t mode = replaces ? status_.st_mode & kPermissions : kUsualPermissions;
+  const std::string neighbour(neighbour_name(name_));
+  const auto create = [&] {
+    written_ =
+        open_at(folder_->descriptor(), neighbour.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW, mode);
+    return written_.is_open();
+  };
+  if (!create()) {
+    const bool left_over = errno == EEXIST;
+    if (!left_over || ::unlinkat(folder_->descriptor(), neighbour.c_str(), 0) != 0 || !create()) fail();
+  }
+  neighbour_ = neighbour;
+  if (replaces && ::fchmod(written_.descriptor(), mode) != 0) fail();
+  return written_.descriptor();
+}
+
+void PosixTarget::finish(Durability durability) {
+  if (durability == Durability::kFlushed && ::fsync(written_.descriptor()) != 0) fail();
+  if (!written_.close()) fail();
+  settle_spelling();
+  if (::renameat(folder_->descriptor(), neighbour_.c_str(), folder_->descriptor(), name_.c_str()) != 0)
+    fail();
+  folder_->name_removed(neighbour_);
+  folder_->name_added(name_);
+  neighbour_.clear();
+  if (durability == Durability::kFlushed) {
+    const FileHandle opened = open_at(folder_->descriptor(), ".", O_RDONLY | O_DIRECTORY);
+    if (!opened.is_open() || ::fsync(opened.descriptor()) != 0) fail();
+  }
+}
+
+void PosixTarget::refuse_read_only_others() const {
+  for (const std::string& other : others_) {
+    struct stat status {};
+    if (::fstatat(folder_->descriptor(), other.c_str(), &status, AT_SYMLINK_NOFOLLOW) == 0) {
+      refuse_read_only(status, "write", path_);
+    }
+  }
+}
+
+/// Leaves the file under the asked spelling alone; folders of the same name stay.
+void PosixTarget::settle_spelling() {
+  if (is_there() && current_ != name_) {
+    if (::renameat(folder_->descriptor(), current_.c_str(), folder_->descriptor(), name_.c_str()) != 0)
+      fail();
+    folder_->name_removed(current_);
+    folder_->name_added(name_);
+    current_ = name_;
+  }
+  for (const std::string& other : others_) {
+    if (::unlinkat(folder_->descriptor(), other.c_str(), 0) == 0 || errno == ENOENT) {
+      folder_->name_removed(other);
+    } else if (errno != EISDIR && errno != EPERM) {
+      fail();
+    }
+  }
+}
+
+void PosixTarget::fail() const {
+  throw_system_error("write", path_);
+}
+
+}  // namespace vorlund

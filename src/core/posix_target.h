@@ -1,0 +1,64 @@
+// The replacing of one file as a whole on POSIX: the neighbour, the spelling and the rename.
+#pragma once
+
+#include <sys/stat.h>
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/file_system.h"
+#include "core/posix_folder.h"
+
+namespace vorlund {
+
+/// The place of a file that is to be written. Functions throw ActionError; the file that was there stays
+/// whole until `finish` has put the new one in its place.
+class PosixTarget {
+ public:
+  /// Looks up what is there. `path` is the path as the program spells it, for error reports.
+  PosixTarget(std::shared_ptr<PosixFolder> folder, std::string name, std::string_view path);
+
+  /// Removes the neighbour of a write that was not finished.
+  ~PosixTarget();
+  PosixTarget(const PosixTarget&) = delete;
+  PosixTarget& operator=(const PosixTarget&) = delete;
+
+  /// The regular file that is there, opened for reading; -1 when there is none or it can't be read.
+  int readable() const { return existing_.descriptor(); }
+
+  /// What is there; meaningful where `readable` is.
+  const struct stat& status() const { return status_; }
+
+  /// Keeps the file that is there, spelled as asked. True when it was spelled so and there was no other.
+  bool keep();
+
+  /// Creates the neighbour, and returns it open for writing. An error where the file must not be replaced.
+  int begin();
+
+  /// Puts the neighbour in the file's place.
+  void finish(Durability durability);
+
+ private:
+  bool is_there() const { return !current_.empty(); }
+  void look();
+  void refuse_read_only_others() const;
+  void settle_spelling();
+  [[noreturn]] void fail() const;
+
+  std::shared_ptr<PosixFolder> folder_;
+  std::string name_;
+  std::string path_;
+  std::string neighbour_;
+  std::string current_;              ///< spelling of the file that is there, "" when there is none
+  std::vector<std::string> others_;  ///< its further spellings
+  struct stat status_ {};
+  FileHandle existing_;
+  FileHandle written_;
+};
+
+/// Throws ActionError where the file has no write permission for anybody.
+void refuse_read_only(const struct stat& status, std::string_view attempted, std::string_view path);
+
+}  // namespace vorlund

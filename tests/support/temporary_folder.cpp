@@ -1,0 +1,154 @@
+// Makes, fills and removes folders for tests, past the program's own file layer so as not to trust it.
+#include "support/temporary_folder.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <random>
+#include <sstream>
+#include <stdexcept>
+
+namespace vorlund::test {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+#ifdef _WIN32
+constexpr char kSeparator = '\\';
+
+/// The long form, so that paths past 260 characters can be made and removed.
+fs::path to_path(std::string_view text) {
+  std::string spelled = "\\\\?\\";
+  spelled.append(text);
+  std::replace(spelled.begin(), spelled.end(), '/', '\\');
+  return fs::path(std::u8string(spelled.begin(), spelled.end()));
+}
+#else
+constexpr char kSeparator = '/';
+
+fs::path to_path(std::string_view text) {
+  std::string spelled(text);
+  std::replace(spelled.begin(), spelled.end(), '\\', '/');
+  return fs::path(spelled);
+}
+#endif
+
+std::string to_text(const fs::path& path) {
+  const std::u8string text = path.u8string();
+  return std::string(text.begin(), text.end());
+}
+
+std::string content_of(const fs::path& path) {
+  std::ifstream file(path, std::ios::binary);
+  std::ostringstream bytes;
+  bytes << file.rdbuf();
+  if (!file) throw std::runtime_error("cannot read " + to_text(path));
+  return bytes.str();
+}
+
+std::string new_folder_path() {
+  static std::mt19937_64 random{std::random_device{}()};
+  std::ostringstream name;
+  name << "vorlund caf\u00E9 " << std::hex << random();
+  std::string parent = to_text(fs::temp_directory_path());
+  while (!parent.empty() && (parent.back() == '/' || parent.back() == '\\')) parent.pop_back();
+  return parent + kSeparator + name.str();
+}
+
+void remove_everything(const fs::path& folder) {
+  std::error_code ignored;
+  for (const fs::directory_entry& entry : fs::directory_iterator(folder, ignored)) {
+    const fs::file_status status = entry.symlink_status(ignored);
+    if (fs::is_directory(status)) {
+      remove_everything(entry.path());
+      continue;
+    }
+    if (!fs::is_symlink(status)) {
+      fs::permissions(entry.path(), fs::perms::owner_write, fs::perm_options::add, ignored);
+    }
+    fs::remove(entry.path(), ignored);
+  }
+  fs::remove(folder, ignored);
+}
+
+}  // namespace
+
+TemporaryFolder::TemporaryFolder() : path_(new_folder_path()) {
+  if (!fs::create_directory(to_path(path_))) throw std::runtime_error("cannot make " + path_);
+}
+
+TemporaryFolder::~TemporaryFolder() {
+  remove_everything(to_path(path_));
+}
+
+std::string TemporaryFolder::path(std::string_view name) const {
+  std::string joined = path_;
+  joined.append("\\").append(name);
+  return joined;
+}
+
+void TemporaryFolder::make_folder(std::string_view name) const {
+  for (std::size_t at = 0; at < name.size(); ++at) {
+    if (name[at] == '\\' || name[at] == '/') fs::create_directory(to_path(path(name.substr(0, at))));
+  }
+  if (!name.empty()) fs::create_directory(to_path(path(name)));
+}
+
+void TemporaryFolder::write(std::string_view name, std::string_view bytes) const {
+  const std::size_t separator = name.find_last_of("\\/");
+  if (separator != std::string_view::npos) make_folder(name.substr(0, separator));
+  std::ofstream file(to_path(path(name)), std::ios::binary | std::ios::trunc);
+  file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+  file.close();
+  if (!file) throw std::runtime_error("cannot write " + path(name));
+}
+
+std::string TemporaryFolder::read(std::string_view name) const {
+  if (!has(name)) throw std::runtime_error("there is no " + path(name));
+  return content_of(to_path(path(name)));
+}
+
+bool TemporaryFolder::has(std::string_view name) const {
+  const std::size_t separator = name.find_last_of("\\/");
+  const bool inside = separator != std::string_view::npos;
+  if (inside && !has(name.substr(0, separator))) return false;
+  const std::vector<std::string> found = names(inside ? name.substr(0, separator) : "");
+  const std::string_view last = inside ? name.substr(separator + 1) : name;
+  return std::find(found.begin(), found.end(), last) != found.end();
+}
+
+std::vector<std::string> TemporaryFolder::names(std::string_view folder) const {
+  std::vector<std::string> found;
+  for (const fs::directory_entry& entry :
+       fs::directory_iterator(to_path(folder.empty() ? path_ : path(folder)))) {
+    found.push_back(to_text(entry.path().filename()));
+  }
+  std::sort(found.begin(), found.end());
+  return found;
+}
+
+std::map<std::string, std::string> TemporaryFolder::tree() const {
+  std::map<std::string, std::string> files;
+  std::vector<std::string> pending = {""};
+  while (!pending.empty()) {
+    const std::string folder = std::move(pending.back());
+    pending.pop_back();
+    for (const std::string& name : names(folder)) {
+      const std::string below = folder.empty() ? name : folder + "/" + name;
+      const fs::path path_below = to_path(path(below));
+      const fs::file_status status = fs::symlink_status(path_below);
+      if (fs::is_symlink(status)) {
+        files[below] = "-> " + to_text(fs::read_symlink(path_below));
+      } else if (fs::is_directory(status)) {
+        if (names(below).empty()) files[below + "/"] = "";
+        pending.push_back(below);
+      } else {
+        files[below] = content_of(path_below);
+      }
+    }
+  }
+  return files;
+}
+
+}  // namespace vorlund::test
