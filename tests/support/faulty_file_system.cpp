@@ -1,0 +1,53 @@
+// Counts operations and fails the one that was asked for.
+#include "support/faulty_file_system.h"
+
+#include "core/action_error.h"
+
+namespace vorlund::test {
+
+namespace {
+
+std::string_view reason(FaultKind kind) {
+  return kind == FaultKind::kDiskFull ? "No space left on device" : "Input/output error";
+}
+
+}  // namespace
+
+void FaultyFileSystem::arm(const Fault& fault) {
+  armed_ = true;
+  fault_ = fault;
+  operations_ = 0;
+  failed_ = false;
+  struck_operation_.clear();
+}
+
+void FaultyFileSystem::disarm() {
+  armed_ = false;
+}
+
+bool FaultyFileSystem::before(const Operation& operation) {
+  if (!armed_) return true;
+  const bool writing = operation.effect == Effect::kWriting;
+  if (fault_.kind != FaultKind::kError && !writing) return true;
+  ++operations_;
+  const bool strikes =
+      fault_.span == FaultSpan::kOnce ? operations_ == fault_.number : operations_ >= fault_.number;
+  if (!strikes) return true;
+
+  if (struck_operation_.empty()) struck_operation_ = operation.text;
+  if (operation.effect == Effect::kQuestion) return false;
+  failed_ = true;
+  if (fault_.kind != FaultKind::kError) leave_neighbour(operation);
+  throw ActionError("carry out", operation.text, reason(fault_.kind));
+}
+
+void FaultyFileSystem::leave_neighbour(const Operation& operation) {
+  const std::string bytes =
+      operation.source.empty() ? std::string(operation.bytes) : inner().read_file(operation.source);
+  const std::size_t name_begin = operation.target.find_last_of("\\/") + 1;
+  std::string neighbour(operation.target.substr(0, name_begin));
+  neighbour += neighbour_name(operation.target.substr(name_begin));
+  inner().replace_file(neighbour, std::string_view(bytes).substr(0, bytes.size() / 2), Durability::kCached);
+}
+
+}  // namespace vorlund::test

@@ -1,0 +1,65 @@
+// A file system that fails on demand, to show what a failing disk leaves behind.
+#pragma once
+
+#include <string>
+
+#include "support/forwarding_file_system.h"
+
+namespace vorlund::test {
+
+enum class FaultKind {
+  kError,       ///< the operation does nothing and fails
+  kShortWrite,  ///< a write puts half of its bytes into the neighbour, leaves it there and fails
+  kDiskFull,    ///< as kShortWrite, and the disk is full
+};
+
+enum class FaultSpan {
+  kOnce,        ///< only the operation with the number fails
+  kPersistent,  ///< that one and all after it fail
+};
+
+struct Fault {
+  int number;  ///< counted from 1
+  FaultKind kind = FaultKind::kError;
+  FaultSpan span = FaultSpan::kOnce;
+};
+
+/// Hands everything on until the operation that is to fail. Each operation has a number, in order, from the
+/// arming of the fault; for kShortWrite and kDiskFull only those that write a file are numbered. An existence
+/// test never fails: struck by a fault it answers no.
+class FaultyFileSystem : public ForwardingFileSystem {
+ public:
+  using ForwardingFileSystem::ForwardingFileSystem;
+
+  /// Numbers anew from here on, and fails as told. A number that is never reached counts the operations.
+  void arm(const Fault& fault);
+
+  /// Fails nothing any more.
+  void disarm();
+
+  /// Operations numbered since the fault was armed.
+  int operations() const { return operations_; }
+
+  /// True when the fault has struck, existence tests included.
+  bool struck() const { return !struck_operation_.empty(); }
+
+  /// True when an operation that can fail has failed, so that an error must have come out.
+  bool failed() const { return failed_; }
+
+  /// The first operation that was struck, in the words of RecordingFileSystem.
+  const std::string& struck_operation() const { return struck_operation_; }
+
+ protected:
+  bool before(const Operation& operation) override;
+
+ private:
+  void leave_neighbour(const Operation& operation);
+
+  bool armed_ = false;
+  Fault fault_{0};
+  int operations_ = 0;
+  bool failed_ = false;
+  std::string struck_operation_;
+};
+
+}  // namespace vorlund::test

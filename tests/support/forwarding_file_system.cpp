@@ -1,0 +1,82 @@
+// Announces each operation to the double and hands it on.
+#include "support/forwarding_file_system.h"
+
+#include <utility>
+
+namespace vorlund::test {
+
+namespace {
+
+std::string words(std::string_view verb, std::string_view path) {
+  std::string text(verb);
+  return text.append(" ").append(path);
+}
+
+std::string_view durability_words(Durability durability) {
+  return durability == Durability::kFlushed ? " (flushed)" : "";
+}
+
+}  // namespace
+
+std::string ForwardingFileSystem::current_folder() {
+  before({Effect::kReading, "find the current folder", {}, {}, {}});
+  return inner_.current_folder();
+}
+
+bool ForwardingFileSystem::FileExists(std::string_view path) {
+  return before({Effect::kQuestion, words("file exists", path), {}, {}, {}}) && inner_.FileExists(path);
+}
+
+bool ForwardingFileSystem::FolderExists(std::string_view path) {
+  return before({Effect::kQuestion, words("folder exists", path), {}, {}, {}}) && inner_.FolderExists(path);
+}
+
+std::vector<FolderEntry> ForwardingFileSystem::entries(std::string_view folder) {
+  before({Effect::kReading, words("list", folder), {}, {}, {}});
+  return inner_.entries(folder);
+}
+
+std::string ForwardingFileSystem::read_file(std::string_view path, std::uint64_t limit) {
+  const std::string verb = limit == kNoLimit ? "read" : "read the first " + std::to_string(limit) + " of";
+  before({Effect::kReading, words(verb, path), {}, {}, {}});
+  return inner_.read_file(path, limit);
+}
+
+std::uint64_t ForwardingFileSystem::file_size(std::string_view path) {
+  before({Effect::kReading, words("size", path), {}, {}, {}});
+  return inner_.file_size(path);
+}
+
+void ForwardingFileSystem::replace_file(std::string_view path, std::string_view bytes,
+                                        Durability durability) {
+  std::string text = words("replace", path).append(durability_words(durability));
+  before({Effect::kWriting, std::move(text), {}, path, bytes});
+  inner_.replace_file(path, bytes, durability);
+}
+
+CopyOutcome ForwardingFileSystem::copy_file(std::string_view source, std::string_view target,
+                                            Durability durability) {
+  std::string text = words("copy", source).append(" -> ").append(target).append(durability_words(durability));
+  before({Effect::kWriting, std::move(text), source, target, {}});
+  return inner_.copy_file(source, target, durability);
+}
+
+void ForwardingFileSystem::remove_file(std::string_view path) {
+  before({Effect::kChanging, words("remove", path), {}, {}, {}});
+  inner_.remove_file(path);
+}
+
+void ForwardingFileSystem::start_program(std::string_view path, std::string_view folder) {
+  before({Effect::kChanging, words("start", path).append(" in ").append(folder), {}, {}, {}});
+  inner_.start_program(path, folder);
+}
+
+void ForwardingFileSystem::begin_action(Pulse pulse) {
+  inner_action_.emplace(inner_, std::move(pulse));
+}
+
+void ForwardingFileSystem::end_action() {
+  inner_action_.reset();
+}
+
+}  // namespace vorlund::test
