@@ -1,0 +1,93 @@
+// Composes and reads the game's name file.
+#include "aircraft/pilot_names.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "aircraft/plane_codes.h"
+#include "core/action_error.h"
+#include "core/code_page.h"
+#include "core/store.h"
+#include "core/text.h"
+
+namespace vorlund {
+
+namespace {
+
+constexpr std::size_t kTable = 8;  // offset of the position table; positions are counted from here
+constexpr std::size_t kNames = static_cast<std::size_t>(kPlaneCount);
+constexpr std::size_t kFirstPosition = 4 * kNames;
+constexpr int kSignedLimit = 32768;
+constexpr std::uint64_t kLongestRead = 128 * 1024;  // past every position that a field can hold
+
+std::string two_bytes_padded(std::size_t value) {
+  return {static_cast<char>(value & 0xFF), static_cast<char>(value >> 8 & 0xFF), '\0', '\0'};
+}
+
+/// A 16-bit field. Bytes past the end of a short file read as 0.
+int field(std::string_view bytes, std::size_t offset, std::string_view path) {
+  const auto byte = [&](std::size_t at) {
+    return at < bytes.size() ? static_cast<int>(static_cast<unsigned char>(bytes[at])) : 0;
+  };
+  const int value = byte(offset) + 256 * byte(offset + 1);
+  if (value >= kSignedLimit) {
+    throw ActionError("read the field at offset " + std::to_string(offset) + " of", path,
+                      "overflow: " + std::to_string(value) + " does not fit in 16 signed bits");
+  }
+  return value;
+}
+
+}  // namespace
+
+std::string compose_pilot_names(const std::vector<std::string>& names, std::string_view path) {
+  std::string positions;
+  std::string strings;
+  for (std::size_t index = 0; index < kNames; ++index) {
+    positions += two_bytes_padded(kFirstPosition + strings.size());
+    if (index < names.size()) strings += encode_text(names[index]);
+    strings += '\0';
+  }
+  const std::size_t length = positions.size() + strings.size();
+  if (length >= kSignedLimit) {
+    throw ActionError("write", path,
+                      "overflow: names of " + std::to_string(length) + " bytes do not fit in 16 signed bits");
+  }
+  return two_bytes_padded(length) + two_bytes_padded(kNames) + positions + strings;
+}
+
+std::vector<std::string> parse_pilot_names(std::string_view bytes, std::string_view path) {
+  field(bytes, 0, path);
+  const std::size_t count = static_cast<std::size_t>(field(bytes, 4, path));
+  std::vector<std::string> names(kNames);
+  for (std::size_t index = 0; index < std::min(count, kNames); ++index) {
+    const std::size_t entry = kTable + 4 * index;
+    if (entry + 2 > bytes.size()) break;
+    const std::size_t start = kTable + static_cast<std::size_t>(field(bytes, entry, path));
+    if (start >= bytes.size()) continue;
+    names[index] = decode_text(bytes.substr(start, bytes.find('\0', start) - start));
+  }
+  return names;
+}
+
+const std::string& PilotNames::name(int record) const {
+  static const std::string kBlank;
+  const bool held = record >= 0 && static_cast<std::size_t>(record) < PNameList.items.size();
+  return held ? PNameList.items[static_cast<std::size_t>(record)] : kBlank;
+}
+
+void PilotNames::LoadPnames(const Environment& environment) {
+  const std::string path = environment.game.path(kPilotNames);
+  if (!environment.files.FileExists(path)) return;
+  PNameList.items = parse_pilot_names(environment.files.read_file(path, kLongestRead), path);
+  PNameList.selected = -1;
+}
+
+void PilotNames::SavePnames(const Environment& environment) {
+  const std::string path = environment.game.path(kPilotNames);
+  if (!environment.files.FileExists(path)) return;
+  PNameList.items.resize(kNames);
+  for (std::string& name : PNameList.items) name = trimmed(name);
+  environment.files.replace_file(path, compose_pilot_names(PNameList.items, path), Durability::kCached);
+}
+
+}  // namespace vorlund
