@@ -36,7 +36,7 @@ struct MouseEvent {
 struct Label {
   std::string caption;
   bool visible = true;
-  Place place;
+  Place place{};
   Colour text_colour = kWhite;
 };
 
@@ -44,12 +44,12 @@ struct Label {
 struct Frame {
   std::string caption;
   bool visible = false;
-  Place place;
+  Place place{};
   int depth = 0;
 };
 
 struct ListBox {
-  std::vector<std::string> items;
+  std::vector<std::string> items{};
   int selected = -1;  ///< index of the selected item, -1 for none
   bool visible = true;
 };

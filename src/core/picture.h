@@ -21,7 +21,7 @@ struct Picture {
   PictureFile picture;
   PictureFile fallback;  ///< shown where `picture` is none or can't be decoded
   bool visible = true;
-  Place place;
+  Place place{};
 };
 
 /// Reads a picture file; one larger than 64 MiB, or one that is not there, gives no picture.

@@ -36,6 +36,9 @@ Form1::Form1(FileSystem& files, Status& window, Version version)
       save_pane(environment, game, plane),
       load_pane(environment, game, plane),
       version_(version) {
+  plane.show_plane_codes = [this] { lists.show_plane_codes(); };
+  plane.fill_possible_skins = [this] { possible_skins.FillPossibleSkins(); };
+  plane.hide_save_pane = [this] { save_pane.SaveFrame.visible = false; };
   Label6.caption = "Vorlund for European Air War";
   Label9[0].caption = "Make Aircraft Settings";
   Label9[1].caption = "Make Game Settings";
@@ -211,6 +214,11 @@ void Form1::Label6_MouseUp() {
 void Form1::WhatsLoaded_Click() {
   plane.show_in_front();
   game.show_in_front();
+}
+
+void Form1::Image4_Click() {
+  possible_skins.Image4_Click();
+  browser.apply_matched_skin();
 }
 
 void Form1::Label28_Click() {
