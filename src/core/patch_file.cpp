@@ -1,6 +1,10 @@
 // Reads, patches and replaces a file as one step.
 #include "core/patch_file.h"
 
+#include <algorithm>
+
+#include "core/text.h"
+
 namespace vorlund {
 
 void PatchedBytes::put(std::size_t offset, std::uint8_t value) {
@@ -14,8 +18,19 @@ void PatchedBytes::put(std::size_t offset, std::string_view run) {
   bytes_.replace(offset, run.size(), run);
 }
 
+namespace {
+
+bool certainly_missing(FileSystem& files, std::string_view path) {
+  const std::string_view name = bare_name(path);
+  const std::vector<FolderEntry> entries = files.entries(path.substr(0, path.size() - name.size()));
+  return std::none_of(entries.begin(), entries.end(),
+                      [&](const FolderEntry& entry) { return same_name(entry.name, name); });
+}
+
+}  // namespace
+
 void patch_file(FileSystem& files, std::string_view path, const std::function<void(PatchedBytes&)>& patch) {
-  const bool existed = files.FileExists(path);
+  const bool existed = files.FileExists(path) || !certainly_missing(files, path);
   PatchedBytes content(existed ? files.read_file(path) : std::string());
   const auto keep = [&] {
     if (!existed || content.changed()) files.replace_file(path, content.bytes(), Durability::kCached);

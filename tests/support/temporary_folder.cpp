@@ -72,6 +72,22 @@ void remove_everything(const fs::path& folder) {
   fs::remove(folder, ignored);
 }
 
+/// Goes by the paths that the disk gives, so that a name which holds a backslash is one name.
+void collect(const fs::path& folder, const std::string& prefix, std::map<std::string, std::string>& files) {
+  for (const fs::directory_entry& entry : fs::directory_iterator(folder)) {
+    const std::string name = prefix + to_text(entry.path().filename());
+    const fs::file_status status = entry.symlink_status();
+    if (fs::is_symlink(status)) {
+      files[name] = "-> " + to_text(fs::read_symlink(entry.path()));
+    } else if (fs::is_directory(status)) {
+      if (fs::is_empty(entry.path())) files[name + "/"] = "";
+      collect(entry.path(), name + "/", files);
+    } else {
+      files[name] = content_of(entry.path());
+    }
+  }
+}
+
 }  // namespace
 
 TemporaryFolder::TemporaryFolder() : path_(new_folder_path()) {
@@ -130,24 +146,7 @@ std::vector<std::string> TemporaryFolder::names(std::string_view folder) const {
 
 std::map<std::string, std::string> TemporaryFolder::tree() const {
   std::map<std::string, std::string> files;
-  std::vector<std::string> pending = {""};
-  while (!pending.empty()) {
-    const std::string folder = std::move(pending.back());
-    pending.pop_back();
-    for (const std::string& name : names(folder)) {
-      const std::string below = folder.empty() ? name : folder + "/" + name;
-      const fs::path path_below = to_path(path(below));
-      const fs::file_status status = fs::symlink_status(path_below);
-      if (fs::is_symlink(status)) {
-        files[below] = "-> " + to_text(fs::read_symlink(path_below));
-      } else if (fs::is_directory(status)) {
-        if (names(below).empty()) files[below + "/"] = "";
-        pending.push_back(below);
-      } else {
-        files[below] = content_of(path_below);
-      }
-    }
-  }
+  collect(to_path(path_), "", files);
   return files;
 }
 

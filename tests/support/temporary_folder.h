@@ -8,8 +8,8 @@
 
 namespace vorlund::test {
 
-/// A new empty folder whose path holds an e-acute and a blank. Names given to it are UTF-8 and relative to it,
-/// with "\\" or "/" between folders.
+/// A new empty folder whose path holds an e-acute and a blank. Names given to it are UTF-8 and relative to
+/// it, with "\\" or "/" between folders.
 class TemporaryFolder {
  public:
   TemporaryFolder();

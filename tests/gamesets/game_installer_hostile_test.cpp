@@ -1,0 +1,249 @@
+// Records of other players: whatever a row or a set folder holds, nothing outside the game folder is touched.
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <string>
+#include <vector>
+
+#include "gamesets/game_installer.h"
+#include "gamesets/game_record.h"
+#include "support/sample_environment.h"
+#include "support/temporary_folder.h"
+
+namespace vorlund {
+namespace {
+
+using namespace std::string_literals;
+
+/// Group and folder names that no honest record holds.
+std::vector<std::string> hostile_names() {
+  std::vector<std::string> names = {"..",
+                                    ".",
+                                    "...",
+                                    "....",
+                                    "..\\..",
+                                    "../..",
+                                    "..\\..\\outside",
+                                    "../../outside",
+                                    "../../../outside",
+                                    "..\\..\\..\\outside",
+                                    "\\outside",
+                                    "/outside",
+                                    "/etc",
+                                    "\\\\server\\share",
+                                    "//server/share",
+                                    "C:",
+                                    "c:\\",
+                                    "C:outside",
+                                    "C:\\outside",
+                                    "c:/outside",
+                                    "\\\\?\\C:\\outside",
+                                    "\\\\.\\C:",
+                                    "\\??\\C:\\outside",
+                                    "One:stream",
+                                    "One::$DATA",
+                                    "One:evil:$DATA",
+                                    ":",
+                                    "::",
+                                    "/",
+                                    "\\",
+                                    "//",
+                                    "\\\\",
+                                    "One/",
+                                    "One\\",
+                                    "/One",
+                                    "\\One",
+                                    "One/..",
+                                    "One\\..",
+                                    "One/../../..",
+                                    "One\\..\\..\\..",
+                                    "./One",
+                                    ".\\One",
+                                    "One/.",
+                                    "One\\.",
+                                    "One//Two",
+                                    "One\\\\Two",
+                                    " ",
+                                    "  ",
+                                    ". ",
+                                    ".. ",
+                                    " ..",
+                                    " . ",
+                                    ". .",
+                                    ".. ..",
+                                    "\t",
+                                    "\n",
+                                    "\r",
+                                    "One\n",
+                                    "\x01",
+                                    "\x1F",
+                                    "\x7F/..",
+                                    "One\0"s,
+                                    "\0"s,
+                                    "\0.."s,
+                                    "..\0"s,
+                                    "../\0"s,
+                                    "One\0/../../outside"s,
+                                    "%2e%2e",
+                                    "%2e%2e/outside",
+                                    "..%2foutside",
+                                    "..%5coutside",
+                                    "~",
+                                    "~/outside",
+                                    "$HOME/outside",
+                                    "%USERPROFILE%\\outside",
+                                    "`outside`",
+                                    "\xC0\xAE\xC0\xAE/outside",
+                                    "..\xC0\xAF..\xC0\xAFoutside",
+                                    "\xEF\xBC\x8E\xEF\xBC\x8E",
+                                    "\xE2\x88\x95outside",
+                                    "\xEF\xBC\x8F..",
+                                    "..\xE2\x81\x84outside",
+                                    "\xFF\xFE",
+                                    "\xED\xA0\x80",
+                                    std::string(300, 'a'),
+                                    std::string(5000, '.'),
+                                    std::string(70'000, 'x'),
+                                    "a/" + std::string(5000, '/') + "b",
+                                    "*",
+                                    "?",
+                                    "*.*",
+                                    "<",
+                                    ">",
+                                    "|",
+                                    "\"",
+                                    "One*",
+                                    "O?e",
+                                    "file:///outside",
+                                    "http://outside",
+                                    "-rf",
+                                    "--",
+                                    "; rm -rf outside",
+                                    "&& outside",
+                                    "$(outside)",
+                                    "{}",
+                                    "outside/../outside"};
+  for (const char* device : {"CON", "PRN", "AUX", "NUL", "COM1", "COM9", "LPT1", "LPT9", "nul.txt", "con ",
+                             "aux.", "CONIN$", "CONOUT$", "COM\xC2\xB9"}) {
+    names.emplace_back(device);
+  }
+  return names;
+}
+
+class HostileRows : public ::testing::Test {
+ protected:
+  HostileRows() {
+    for (const char* name : {"game/Savedata", "game/Music", "game/~Vorlund/GameStore/Set"}) {
+      folder.make_folder(name);
+    }
+    folder.write("outside/bait.dat", "bait");
+    folder.write("outside/outside/bait.dat", "bait");
+    folder.write("bait.dat", "bait");
+    folder.write("game/~Vorlund/bait.dat", "bait");
+    folder.write("game/~Vorlund/GameStore/bait.dat", "bait");
+    folder.write("game/~Vorlund/GameStore/Set/bait.dat", "bait");
+    folder.write("game/eaw.exe", "MZ");
+  }
+
+  GameSetSummary install(const std::string& group, const std::string& name) {
+    GameTable table;
+    table.G2.add_row({group, name});
+    table.g2update();
+    return install_game_set(environment, table);
+  }
+
+  test::TemporaryFolder folder;
+  std::unique_ptr<FileSystem> files = make_platform_file_system();
+  test::SampleEnvironment environment{*files, folder.path("game")};
+};
+
+TEST_F(HostileRows, AreShownButPassedOver) {
+  const std::vector<std::string> names = hostile_names();
+  ASSERT_GE(names.size(), 100U);
+  const auto before = folder.tree();
+  for (const std::string& name : names) {
+    for (const auto& [group, set] :
+         {std::pair(std::string("Set"), name), std::pair(name, std::string("Set")), std::pair(name, name)}) {
+      const GameSetSummary summary = install(group, set);
+      EXPECT_EQ(summary.copied + summary.unchanged, 0U)
+          << testing::PrintToString(group) << " / " << testing::PrintToString(set);
+    }
+  }
+  EXPECT_EQ(folder.tree(), before);
+}
+
+TEST_F(HostileRows, OfARecordAreReadAndInstalledWithoutHarm) {
+  std::string record = "Folder group\tFolder name\r\n";
+  for (const std::string& name : hostile_names()) record += "Set\t" + name + "\r\n" + name + "\tSet\r\n";
+  folder.write("game/~Vorlund/CurrentGameSet.txt", record);
+  const auto before = folder.tree();
+  GameTable table;
+  read_game_set(*files, folder.path("game\\~Vorlund\\CurrentGameSet.txt"), table);
+  EXPECT_GT(table.G2.row_count(), 200);
+  install_game_set(environment, table);
+  EXPECT_EQ(folder.tree(), before);
+}
+
+TEST_F(HostileRows, AHundredThousandOfThemEnd) {
+  GameTable table;
+  for (int row = 0; row < 100'000; ++row) table.G2.add_row({"Set", "..\\..\\" + std::to_string(row)});
+  table.g2update();
+  EXPECT_EQ(install_game_set(environment, table).missing, 100'000U);
+}
+
+TEST_F(HostileRows, APatchFarPastTheExecutablesEndStaysInsideTheExecutable) {
+  folder.write("game/~Vorlund/GameStore/Set/Far/far.LDR", "\xFE\xFF\xFF\xFF\xFF\xFF!!"s);
+  install("Set", "Far");
+  const std::string executable = folder.read("game/eaw.exe");
+  EXPECT_EQ(executable.size(), 0x1000000U);
+  EXPECT_EQ(executable.substr(0x1000000 - 3), "\0!!"s);
+}
+
+#ifndef _WIN32
+TEST_F(HostileRows, LinksInASetNeverLeadAWriteOutside) {
+  namespace fs = std::filesystem;
+  const fs::path root = fs::u8path(folder.path());
+  const fs::path set = root / "game/~Vorlund/GameStore/Set/Links";
+  fs::create_directories(set);
+  fs::create_symlink(root / "outside/bait.dat", set / "link.dat");
+  fs::create_directory_symlink(root / "outside", set / "linked folder");
+  fs::create_symlink(root / "nowhere", set / "dangling.dat");
+  fs::create_symlink(root / "outside/bait.dat", root / "game/victim.dat");
+  fs::create_symlink(root / "outside/bait.dat", root / "game/~vorlund.bak");
+  folder.write("game/~Vorlund/GameStore/Set/Links/victim.dat", "written inside");
+  install("Set", "Links");
+  EXPECT_EQ(folder.read("outside/bait.dat"), "bait");
+  EXPECT_EQ(folder.read("game/link.dat"), "bait");
+  EXPECT_FALSE(fs::is_symlink(root / "game/link.dat"));
+  EXPECT_EQ(folder.read("game/victim.dat"), "written inside");
+  EXPECT_FALSE(fs::is_symlink(root / "game/victim.dat"));
+  EXPECT_FALSE(folder.has("game/dangling.dat"));
+}
+
+TEST_F(HostileRows, AnExecutableThatIsALinkIsPatchedInsideTheGameFolder) {
+  namespace fs = std::filesystem;
+  const fs::path root = fs::u8path(folder.path());
+  fs::remove(root / "game/eaw.exe");
+  fs::create_symlink(root / "outside/bait.dat", root / "game/eaw.exe");
+  folder.write("game/~Vorlund/GameStore/Set/Patch/fix.LDR", "\x00\0\0\x00\0\0B"s);
+  install("Set", "Patch");
+  EXPECT_EQ(folder.read("outside/bait.dat"), "bait");
+  EXPECT_EQ(folder.read("game/eaw.exe"), "Bait");
+}
+
+TEST_F(HostileRows, FileNamesThatHoldABackslashStayInTheStore) {
+  namespace fs = std::filesystem;
+  const fs::path root = fs::u8path(folder.path());
+  const fs::path set = root / "game/~Vorlund/GameStore/Set/Names";
+  fs::create_directories(set);
+  { std::ofstream(set / "..\\..\\outside\\bait.dat") << "evil"; }
+  { std::ofstream(set / "..\\evil.dat") << "evil"; }
+  const auto before = folder.tree();
+  EXPECT_EQ(install("Set", "Names").copied, 0U);
+  EXPECT_EQ(folder.tree(), before);
+}
+#endif
+
+}  // namespace
+}  // namespace vorlund

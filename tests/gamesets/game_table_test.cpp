@@ -1,0 +1,158 @@
+// The look of the game table and its row commands.
+#include "gamesets/game_table.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace vorlund {
+namespace {
+
+using Rows = std::vector<std::pair<std::string, std::string>>;
+
+GameTable table_of(const Rows& rows) {
+  GameTable table;
+  for (const auto& [group, folder] : rows) table.G2.add_row({group, folder});
+  table.g2update();
+  return table;
+}
+
+Rows rows_of(const GameTable& table) {
+  Rows rows;
+  for (int row = 1; row < table.G2.row_count(); ++row) {
+    rows.emplace_back(table.G2.cell(row, GameTable::kGroup), table.G2.cell(row, GameTable::kFolder));
+  }
+  return rows;
+}
+
+std::vector<bool> hidden_rows(const GameTable& table) {
+  std::vector<bool> hidden;
+  for (const Grid::Row& row : table.G2.rows) hidden.push_back(row.hidden);
+  return hidden;
+}
+
+TEST(GameTable, BeginsWithItsHeaderRowAlone) {
+  const GameTable table;
+  ASSERT_EQ(table.G2.row_count(), 1);
+  EXPECT_EQ(table.G2.cell(0, 0), "Folder group");
+  EXPECT_EQ(table.G2.cell(0, 1), "Folder name");
+  EXPECT_EQ(table.G2.column_widths, (std::vector<int>{3000, 5000}));
+}
+
+TEST(GameTable, HidesClearedRowsAndShowsTheOthers) {
+  const GameTable table = table_of({{"Scenery", "Winter"}, {"Sounds", ""}, {"Sky", "Dusk"}});
+  EXPECT_EQ(hidden_rows(table), (std::vector<bool>{false, false, true, false}));
+}
+
+TEST(GameTable, GivesATableWithoutRowsItsHeaderBack) {
+  GameTable table;
+  table.clear();
+  table.g2update();
+  ASSERT_EQ(table.G2.row_count(), 1);
+  EXPECT_EQ(table.G2.cell(0, 1), "Folder name");
+}
+
+TEST(GameTable, ReplacesWhateverTextsTheHeaderRowHeld) {
+  GameTable table;
+  table.clear();
+  table.G2.add_row({"x", ""});
+  table.g2update();
+  EXPECT_EQ(table.G2.cell(0, 0), "Folder group");
+  EXPECT_FALSE(table.G2.rows[0].hidden);
+}
+
+TEST(GameTable, CommandsDoNothingToATableOfTheHeaderAlone) {
+  GameTable table;
+  table.select(0);
+  table.clear_current("");
+  table.move_current_to_end();
+  EXPECT_EQ(table.G2.row_count(), 1);
+  EXPECT_EQ(table.G2.cell(0, 0), "Folder group");
+}
+
+TEST(GameTable, CommandsDoNothingWithoutASelectedRow) {
+  GameTable table = table_of({{"Scenery", "Winter"}});
+  table.select(0);
+  table.clear_current("Scenery");
+  table.move_current_to_end();
+  EXPECT_EQ(rows_of(table), (Rows{{"Scenery", "Winter"}}));
+}
+
+TEST(GameTable, TakesARowThatIsNotThereAsNoSelection) {
+  GameTable table = table_of({{"Scenery", "Winter"}});
+  for (const int row : {-1, 2, 1000}) {
+    table.select(row);
+    EXPECT_EQ(table.G2.row, 0) << row;
+  }
+}
+
+TEST(GameTable, ClearingARowKeepsItsGroupAndHidesIt) {
+  GameTable table = table_of({{"Scenery", "Winter"}, {"Sky", "Dusk"}});
+  table.select(1);
+  table.clear_current("Tweaks");
+  EXPECT_EQ(rows_of(table), (Rows{{"Scenery", ""}, {"Sky", "Dusk"}}));
+  EXPECT_EQ(hidden_rows(table), (std::vector<bool>{false, true, false}));
+}
+
+TEST(GameTable, ClearingARowOfTheLastGroupRemovesIt) {
+  GameTable table = table_of({{"Scenery", "Winter"}, {"Tweaks", "Smoke"}, {"Sky", "Dusk"}});
+  table.select(2);
+  table.clear_current("Tweaks");
+  EXPECT_EQ(rows_of(table), (Rows{{"Scenery", "Winter"}, {"Sky", "Dusk"}}));
+}
+
+TEST(GameTable, ComparesTheLastGroupWithCase) {
+  GameTable table = table_of({{"tweaks", "Smoke"}});
+  table.select(1);
+  table.clear_current("Tweaks");
+  EXPECT_EQ(rows_of(table), (Rows{{"tweaks", ""}}));
+}
+
+TEST(GameTable, AfterClearingTheNextShownRowIsCurrent) {
+  GameTable table = table_of({{"A", "1"}, {"B", "2"}, {"C", ""}, {"D", "4"}});
+  table.select(2);
+  table.clear_current("Z");
+  EXPECT_EQ(table.G2.row, 4);
+}
+
+TEST(GameTable, AfterClearingTheLastShownRowTheOneBeforeIsCurrent) {
+  GameTable table = table_of({{"A", "1"}, {"B", ""}, {"C", "3"}});
+  table.select(3);
+  table.clear_current("Z");
+  EXPECT_EQ(table.G2.row, 1);
+  table.clear_current("Z");
+  EXPECT_EQ(table.G2.row, 0);
+}
+
+TEST(GameTable, AfterRemovingARowTheOneThatFollowedIsCurrent) {
+  GameTable table = table_of({{"Z", "1"}, {"Z", "2"}, {"Z", "3"}});
+  table.select(2);
+  table.clear_current("Z");
+  EXPECT_EQ(table.G2.row, 2);
+  EXPECT_EQ(table.G2.cell(2, GameTable::kFolder), "3");
+  table.clear_current("Z");
+  EXPECT_EQ(table.G2.row, 1);
+  EXPECT_EQ(table.G2.cell(1, GameTable::kFolder), "1");
+}
+
+TEST(GameTable, MovesTheCurrentRowBehindAllOthersAndKeepsItCurrent) {
+  GameTable table = table_of({{"A", "1"}, {"B", "2"}, {"C", ""}});
+  table.select(1);
+  table.move_current_to_end();
+  EXPECT_EQ(rows_of(table), (Rows{{"B", "2"}, {"C", ""}, {"A", "1"}}));
+  EXPECT_EQ(hidden_rows(table), (std::vector<bool>{false, false, true, false}));
+  EXPECT_EQ(table.G2.row, 3);
+}
+
+TEST(GameTable, MovingTheLastRowLeavesTheOrder) {
+  GameTable table = table_of({{"A", "1"}, {"B", "2"}});
+  table.select(2);
+  table.move_current_to_end();
+  EXPECT_EQ(rows_of(table), (Rows{{"A", "1"}, {"B", "2"}}));
+  EXPECT_EQ(table.G2.row, 2);
+}
+
+}  // namespace
+}  // namespace vorlund
