@@ -40,6 +40,11 @@ ActionLabel::ActionLabel(const QString& name, Look look, QWidget* parent, Drag d
   setFocusPolicy(Qt::StrongFocus);
   setCursor(Qt::PointingHandCursor);
   setAttribute(Qt::WA_Hover);
+  if (look == Look::kHelp) {
+    QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Minimum);
+    policy.setHeightForWidth(true);
+    setSizePolicy(policy);
+  }
 }
 
 void ActionLabel::apply(const Label& label) {
@@ -58,8 +63,16 @@ void ActionLabel::apply(const Label& label) {
 }
 
 QSize ActionLabel::sizeHint() const {
-  const QFontMetrics metrics = fontMetrics();
+  const QFontMetrics metrics(shown_font());
+  if (look_ == Look::kHelp) return {metrics.averageCharWidth() * 40, metrics.height() * 2};
   return {metrics.horizontalAdvance(text()) + 2 * metrics.height(), metrics.height() * 2};
+}
+
+int ActionLabel::heightForWidth(int width) const {
+  if (look_ != Look::kHelp) return -1;
+  const QFontMetrics metrics = fontMetrics();
+  const QRect room(0, 0, width - metrics.height() * 4 / 3, 10000);
+  return metrics.boundingRect(room, Qt::AlignLeft | Qt::TextWordWrap, text()).height() + metrics.height();
 }
 
 QColor ActionLabel::fill() const {
@@ -69,6 +82,8 @@ QColor ActionLabel::fill() const {
       return lit ? theme::kPlateHover : theme::kPlate;
     case Look::kButton:
       return lit ? theme::kButtonHover : theme::kButton;
+    case Look::kHelp:
+      return lit ? theme::kButton : theme::kPanelTitle;
     case Look::kPrimary:
       return lit ? theme::kAccent.lighter(115) : theme::kAccent;
     case Look::kRow:
@@ -82,8 +97,22 @@ QRect ActionLabel::text_area() const {
   return rect().adjusted(margin, 0, -margin, 0);
 }
 
+bool ActionLabel::marked() const {
+  return text_colour_ != theme::kText && text_colour_ != QColor(Qt::white);
+}
+
+QFont ActionLabel::shown_font() const {
+  QFont shown = font();
+  shown.setBold(marked() || look_ == Look::kPrimary);
+  return shown;
+}
+
+bool ActionLabel::wraps() const {
+  return look_ == Look::kHelp || text_area().height() >= 2 * fontMetrics().lineSpacing() + 6;
+}
+
 bool ActionLabel::event(QEvent* event) {
-  const bool cut = fontMetrics().horizontalAdvance(text()) > text_area().width();
+  const bool cut = !wraps() && QFontMetrics(shown_font()).horizontalAdvance(text()) > text_area().width();
   if (event->type() == QEvent::ToolTip && cut && toolTip().isEmpty()) {
     QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), text(), this);
     return true;
@@ -93,15 +122,14 @@ bool ActionLabel::event(QEvent* event) {
 
 void ActionLabel::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  const bool marked = text_colour_ != theme::kText && text_colour_ != QColor(Qt::white);
   theme::draw_plate(painter, rect(), fill(), hasFocus() ? theme::kAccent : QColor(0, 0, 0, 0));
-  painter.setPen(look_ == Look::kPrimary ? theme::kField : marked ? text_colour_ : theme::kText);
-  if (marked || look_ == Look::kPrimary) {
-    QFont bold = font();
-    bold.setBold(true);
-    painter.setFont(bold);
-  }
+  painter.setPen(look_ == Look::kPrimary ? theme::kField : marked() ? text_colour_ : theme::kText);
+  painter.setFont(shown_font());
   const QRect area = text_area();
+  if (wraps()) {
+    painter.drawText(area, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextWordWrap, text());
+    return;
+  }
   const bool centred = look_ == Look::kButton || look_ == Look::kPrimary;
   const QString shown = painter.fontMetrics().elidedText(text(), Qt::ElideRight, area.width());
   painter.drawText(area, Qt::AlignVCenter | (centred ? Qt::AlignHCenter : Qt::AlignLeft), shown);

@@ -20,6 +20,7 @@ class ActionLabel : public QAbstractButton {
     kButton,   ///< a command of a pane
     kPrimary,  ///< the main command of a pane
     kRow,      ///< one of many entries
+    kHelp,     ///< a text of as many lines as it needs
   };
   enum class Drag { kNo, kRightButton };
 
@@ -35,6 +36,7 @@ class ActionLabel : public QAbstractButton {
   void apply(const Label& label);
 
   QSize sizeHint() const override;
+  int heightForWidth(int width) const override;
 
  protected:
   bool event(QEvent* event) override;
@@ -51,6 +53,9 @@ class ActionLabel : public QAbstractButton {
  private:
   QColor fill() const;
   QRect text_area() const;
+  QFont shown_font() const;
+  bool marked() const;
+  bool wraps() const;
 
   Look look_;
   Drag drag_;

@@ -5,10 +5,18 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <algorithm>
+#include <numeric>
 
 #include "ui/window/theme.h"
 
 namespace vorlund {
+
+namespace {
+
+constexpr int kHeaderPadding = 26;
+constexpr int kCellPadding = 14;
+
+}  // namespace
 
 void GridModel::refresh() {
   std::vector<int> shown;
@@ -76,6 +84,7 @@ GridView::GridView(const QString& name, const Grid& grid, QWidget* parent)
   setCursor(Qt::ArrowCursor);
   setWordWrap(false);
   setTabKeyNavigation(false);
+  viewport()->setMouseTracking(true);
   verticalHeader()->hide();
   verticalHeader()->setDefaultSectionSize(fontMetrics().height() * 7 / 4);
   horizontalHeader()->setHighlightSections(false);
@@ -97,15 +106,71 @@ void GridView::apply() {
     }
   }
   applying_ = false;
+  share_room();
 }
 
 void GridView::fit_columns() {
   for (int column = 0; column < grid_.columns; ++column) {
     const std::size_t index = static_cast<std::size_t>(column);
     const int given = index < grid_.column_widths.size() ? theme::pixels(grid_.column_widths[index]) : 0;
-    const int header = fontMetrics().horizontalAdvance(QString::fromStdString(grid_.cell(0, column))) + 26;
+    const int header =
+        fontMetrics().horizontalAdvance(QString::fromStdString(grid_.cell(0, column))) + kHeaderPadding;
     setColumnWidth(column, std::max(given, header));
   }
+}
+
+void GridView::share_columns() {
+  sharing_ = Sharing::kOn;
+  horizontalHeader()->setStretchLastSection(false);
+  connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this] {
+    if (!applying_) sharing_ = Sharing::kOff;
+  });
+}
+
+int GridView::header_width(int column) const {
+  return fontMetrics().horizontalAdvance(QString::fromStdString(grid_.cell(0, column))) + kHeaderPadding;
+}
+
+int GridView::wanted_width(int column) const {
+  int width = header_width(column);
+  for (int row = 0; row < model_.rowCount(); ++row) {
+    const QString text = QString::fromStdString(grid_.cell(model_.grid_row(row), column));
+    width = std::max(width, fontMetrics().horizontalAdvance(text) + kCellPadding);
+  }
+  return width;
+}
+
+void GridView::share_room() {
+  if (sharing_ == Sharing::kOff || grid_.columns == 0) return;
+  std::vector<int> widths;
+  for (int column = 0; column < grid_.columns; ++column) widths.push_back(wanted_width(column));
+  int spare = viewport()->width() - std::accumulate(widths.begin(), widths.end(), 0);
+  for (; spare < 0; ++spare) {
+    int* longest = nullptr;
+    int most = 0;
+    for (int column = 0; column < grid_.columns; ++column) {
+      int& width = widths[static_cast<std::size_t>(column)];
+      const int excess = width - header_width(column);
+      if (excess > most) {
+        most = excess;
+        longest = &width;
+      }
+    }
+    if (longest == nullptr) break;
+    --*longest;
+  }
+  applying_ = true;
+  for (int column = 0; column < grid_.columns; ++column) {
+    const int share = std::max(spare, 0) / (grid_.columns - column);
+    spare -= share;
+    setColumnWidth(column, widths[static_cast<std::size_t>(column)] + share);
+  }
+  applying_ = false;
+}
+
+void GridView::resizeEvent(QResizeEvent* event) {
+  QTableView::resizeEvent(event);
+  share_room();
 }
 
 void GridView::mousePressEvent(QMouseEvent* event) {
@@ -116,7 +181,12 @@ void GridView::mousePressEvent(QMouseEvent* event) {
   }
 }
 
-void GridView::mouseMoveEvent(QMouseEvent*) {}
+void GridView::mouseMoveEvent(QMouseEvent* event) {
+  const QModelIndex index = indexAt(event->position().toPoint());
+  const bool acts =
+      model_.cycles && index.isValid() && model_.cycles(model_.grid_row(index.row()), index.column());
+  viewport()->setCursor(acts ? Qt::PointingHandCursor : Qt::ArrowCursor);
+}
 
 void GridView::keyPressEvent(QKeyEvent* event) {
   const bool activates =

@@ -54,15 +54,26 @@ class GridView : public QTableView {
   /// Minimum column widths in pixels fit for the content, on top of the grid's own widths.
   void fit_columns();
 
+  /// From now on shares the room among the columns by what they hold: headers stay whole, the longest texts
+  /// give way first. A column that the user sizes ends this.
+  void share_columns();
+
  protected:
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
+  enum class Sharing { kOff, kOn };
+  void share_room();
+  int header_width(int column) const;
+  int wanted_width(int column) const;
+
   const Grid& grid_;
   GridModel model_;
   bool applying_ = false;
+  Sharing sharing_ = Sharing::kOff;
 };
 
 }  // namespace vorlund

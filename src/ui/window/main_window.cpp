@@ -12,8 +12,13 @@
 #include "ui/window/directory_view.h"
 #include "ui/window/game_pane_view.h"
 #include "ui/window/group_labels_view.h"
+#include "ui/window/load_pane_view.h"
+#include "ui/window/menu_editor_view.h"
 #include "ui/window/menu_view.h"
 #include "ui/window/picture_view.h"
+#include "ui/window/plane_pane_view.h"
+#include "ui/window/possible_skins_view.h"
+#include "ui/window/save_pane_view.h"
 #include "ui/window/selection_pane_view.h"
 #include "ui/window/theme.h"
 #include "version.h"
@@ -31,7 +36,7 @@ constexpr QSize kSmallestSize{960, 560};
 
 MainWindow::MainWindow(FileSystem& files, std::function<void(const QString&)> report_error)
     : report_error_(std::move(report_error)),
-      form_(std::make_unique<Form1>(files, *this, Version{kVersionMajor, kVersionMinor, kVersionRevision})) {
+      form_(new Form1(files, *this, Version{kVersionMajor, kVersionMinor, kVersionRevision})) {
   setObjectName("Form1");
   setWindowTitle("Vorlund");
   setMinimumSize(kSmallestSize);
@@ -74,7 +79,18 @@ void MainWindow::add_views() {
   add(std::make_unique<DirectoryView>(*form_, perform, this));
   auto* selection = add(std::make_unique<SelectionPaneView>(*form_, perform, this));
   auto* game = add(std::make_unique<GamePaneView>(*form_, perform, this));
-  frames_ = {{&selection->frame(), &form_->selection.Frame3}, {&game->frame(), &form_->game.GameFrame}};
+  auto* plane = add(std::make_unique<PlanePaneView>(*form_, perform, this));
+  auto* possible_skins = add(std::make_unique<PossibleSkinsView>(*form_, perform, this));
+  auto* load = add(std::make_unique<LoadPaneView>(*form_, perform, this));
+  auto* save = add(std::make_unique<SavePaneView>(*form_, perform, this));
+  auto* menu_editor = add(std::make_unique<MenuEditorView>(*form_, perform, this));
+  frames_ = {{&selection->frame(), &form_->selection.Frame3},
+             {&game->frame(), &form_->game.GameFrame},
+             {&plane->frame(), &form_->plane.Frame1},
+             {&possible_skins->frame(), &form_->possible_skins.Frame4},
+             {&load->frame(), &form_->load_pane.Frame2},
+             {&save->frame(), &form_->save_pane.SaveFrame},
+             {&menu_editor->frame(), &form_->menu_editor.PMenFrame}};
 }
 
 bool MainWindow::start() {

@@ -10,6 +10,22 @@
 
 namespace vorlund {
 
+namespace {
+
+// Pixels that the main menu takes at the left, and the title and the status line above and below a pane.
+constexpr int kBesidePane = 300;
+constexpr int kAboveAndBelowPane = 110;
+constexpr QSize kLeastPane{600, 380};
+
+}  // namespace
+
+void fit_to_room(Frame& frame, const QWidget& parent, const QSize& most) {
+  const QSize room = parent.size() - QSize(kBesidePane, kAboveAndBelowPane);
+  const QSize size = room.boundedTo(most).expandedTo(kLeastPane);
+  frame.place.width = theme::twips(size.width());
+  frame.place.height = theme::twips(size.height());
+}
+
 PaneFrame::PaneFrame(const QString& name, FreeArea free_area, QWidget* parent)
     : QWidget(parent), free_area_(free_area), content_(new QVBoxLayout(this)) {
   setObjectName(name);

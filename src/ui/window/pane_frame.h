@@ -45,4 +45,8 @@ class PaneFrame : public QWidget {
   QPoint place_at_press_;
 };
 
+/// Makes a pane as large as the room beside the main menu, `most` pixels at most. Where it stands is left
+/// alone.
+void fit_to_room(Frame& frame, const QWidget& parent, const QSize& most);
+
 }  // namespace vorlund

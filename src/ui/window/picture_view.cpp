@@ -83,6 +83,11 @@ void PictureView::mouseReleaseEvent(QMouseEvent* event) {
   if (click && on_click) on_click();
 }
 
+void PictureView::mouseDoubleClickEvent(QMouseEvent*) {
+  // The second press of a double click on what opened this picture must not choose it.
+  pressed_ = false;
+}
+
 void PictureView::keyPressEvent(QKeyEvent* event) {
   const bool activates =
       event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter || event->key() == Qt::Key_Space;
