@@ -65,7 +65,10 @@ MainWindow::MainWindow(FileSystem& files, std::function<void(const QString&)> re
   add_views();
 }
 
-MainWindow::~MainWindow() = default;
+MainWindow::~MainWindow() {
+  // The base class would hide its tables only after the grids they show are gone.
+  hide();
+}
 
 void MainWindow::add_views() {
   const Perform perform = [this](const std::function<void()>& handler) { this->perform(handler); };
