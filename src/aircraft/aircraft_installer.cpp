@@ -100,7 +100,7 @@ class Installation {
         throw ActionError("set the name of", table_.describe_cell(row, PlaneTable::kRecordNumber),
                           "subscript " + std::to_string(record) + " is not in 0 to 29");
       }
-      names_.PNameList.items.at(static_cast<std::size_t>(record)) = cell(row, PlaneTable::kPlaneName);
+      names_.set_name(record, cell(row, PlaneTable::kPlaneName));
     }
     names_.SavePnames(environment_);
     summary_.names = true;

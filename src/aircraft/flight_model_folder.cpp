@@ -20,7 +20,7 @@ std::string flight_model_folder(const Environment& environment, const PlaneTable
 
 void list_pattern(FileSystem& files, FileList& list, std::string_view pattern) {
   list.pattern = pattern;
-  if (list.path.empty()) {
+  if (list.path.empty() || !files.FolderExists(list.path)) {
     list.names.clear();
     list.selected = -1;
   } else {

@@ -21,7 +21,7 @@ std::string flight_model_group_folder(const Environment& environment, const Plan
 /// own.
 std::string flight_model_folder(const Environment& environment, const PlaneTable& table, int row);
 
-/// Lists the files of the list's folder that match; none when its path is "".
+/// Lists the files of the list's folder that match; none when there is no such folder.
 void list_pattern(FileSystem& files, FileList& list, std::string_view pattern);
 
 }  // namespace vorlund

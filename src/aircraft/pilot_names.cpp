@@ -75,6 +75,11 @@ const std::string& PilotNames::name(int record) const {
   return held ? PNameList.items[static_cast<std::size_t>(record)] : kBlank;
 }
 
+void PilotNames::set_name(int record, std::string name) {
+  PNameList.items.resize(kNames);
+  PNameList.items.at(static_cast<std::size_t>(record)) = std::move(name);
+}
+
 void PilotNames::LoadPnames(const Environment& environment) {
   const std::string path = environment.game.path(kPilotNames);
   if (!environment.files.FileExists(path)) return;

@@ -31,6 +31,9 @@ class PilotNames {
   /// The name of a record; "" for one that the list does not hold.
   const std::string& name(int record) const;
 
+  /// Sets the name of a record, 0 to 29.
+  void set_name(int record, std::string name);
+
   /// Fills the list from the file. Without the file nothing changes.
   void LoadPnames(const Environment& environment);
 

@@ -69,8 +69,8 @@ class RecordWriter {
 
   double flags(double value) {
     const bool german = cell(PlaneTable::kSide) == "German";
-    // Deliberate: both tests are strict, so 127 is left as it is for either side, as the sets made so far
-    // expect.
+    // Deliberate: both tests are strict. A flight model whose flags are exactly 127 belongs to neither side
+    // and is left as its maker wrote it.
     if (value > 127 && !german) value -= 128;
     if (value < 127 && german) value += 128;
     const std::string& role = cell(PlaneTable::kRole);
@@ -83,8 +83,9 @@ class RecordWriter {
 
   double side(double value) {
     const std::string& name = cell(PlaneTable::kSide);
-    // Deliberate: the code of the flags line is not reset first, and "Britsh" is spelled like this, so a
-    // British row adds its role and flyable code here. The game's installed sets carry these values.
+    // Deliberate: the code of the flags line is not reset first and "Britsh" is misspelt. British rows so
+    // carry their role and flyable code into this byte; that is what every set installed so far has given
+    // the game, and another value would change how its British aircraft behave.
     if (name == "German") code_ = 0;
     if (name == "Britsh") code_ = 1;
     if (name == "American") code_ = 2;

@@ -1,6 +1,8 @@
 // Composes the sentence that an error report shows.
 #include "core/action_error.h"
 
+#include <algorithm>
+
 namespace vorlund {
 
 namespace {
@@ -8,6 +10,7 @@ namespace {
 std::string sentence(std::string_view attempted, std::string_view path, std::string_view reason) {
   std::string text = "Could not ";
   text.append(attempted).append(" \"").append(path).append("\": ").append(reason);
+  std::replace(text.begin(), text.end(), '\0', '?');  // what() ends at the first one
   return text;
 }
 

@@ -1,0 +1,180 @@
+// Plane sets of other players: whatever a cell holds, nothing outside the game folder is written.
+#include <filesystem>
+
+#include "aircraft/aircraft_fixture.h"
+#include "aircraft/aircraft_installer.h"
+#include "aircraft/plane_record.h"
+#include "core/plain_name.h"
+
+namespace vorlund {
+namespace {
+
+using namespace std::string_literals;
+using test::error_of;
+using test::same_values;
+using test::value_text;
+using Tree = std::map<std::string, std::string>;
+
+/// Names that mean another place than a folder or file of that very name.
+std::vector<std::string> hostile_names() {
+  std::vector<std::string> names = {".",           "..",        "...",         " ",      ". ",
+                                    ".. ..",       "\t",        "\n",          "\1",     "\0"s,
+                                    "..\0"s,       "C:",        "C:\\",        "c:bait", ":",
+                                    "a:b",         "CON\n",     "/",           "\\",     "//",
+                                    "\\\\",        "/etc",      "a\rb",        "\x7F",   "\\\\server\\share",
+                                    "\\\\?\\C:\\", "\\\\.\\C:", "model::$DATA"};
+  for (const char* stem : {"..", "../..", "..\\..", "outside", "../outside", "..\\..\\outside", "Model"}) {
+    for (const char* before :
+         {"/", "\\", "./", ".\\", "../", "..\\", "../../../", "..\\..\\..\\", "Model/../"}) {
+      names.push_back(std::string(before) + stem);
+    }
+    for (const char* after : {"/", "\\", "/.", "\\..", ":stream", "\n"}) {
+      names.push_back(std::string(stem) + after);
+    }
+  }
+  return names;
+}
+
+class HostileCells : public ::testing::Test {
+ protected:
+  HostileCells() {
+    bait("");
+    bait("outside");
+    bait("outside/outside");
+    bait("game/~Vorlund");
+    bait("game/~Vorlund/FlightModels");
+    bait("game/~Vorlund/FlightModels/Group/Model");
+    bait("game/~Vorlund/SkinStore");
+    bait("game/~Vorlund/SkinStore/Region/Skin");
+    folder.write("game/pnames.str", compose_pilot_names({}, ""));
+    before = folder.tree();
+  }
+
+  /// Everything that an installation looks for.
+  void bait(const std::string& place) const {
+    const std::string start = place.empty() ? "" : place + "/";
+    folder.write(start + "bait.oaw", value_text("bait", same_values(168, "1")));
+    folder.write(start + "bait.lo1", value_text("bait", same_values(44, "1")));
+    folder.write(start + "bait.flt", "bait");
+    folder.write(start + "bait.3dz", "bait");
+  }
+
+  /// Installs a table whose only row has these cells; an error is one way for it to end.
+  std::string install(const std::string& group, const std::vector<std::string>& cells) {
+    PlaneTable table;
+    table.set_flight_model_group(group);
+    table.G1.rows[1].cells = cells;
+    table.g1update();
+    PilotNames names;
+    MenuEditor menu_editor(environment);
+    return error_of([&] { install_aircraft_set(environment, table, names, menu_editor); });
+  }
+
+  /// Files of the game folder itself besides pnames.str, which were not there before.
+  std::vector<std::string> written() const {
+    std::vector<std::string> found;
+    for (const auto& [name, bytes] : folder.tree()) {
+      if (name == "game/pnames.str") continue;
+      const auto old = before.find(name);
+      if (old == before.end() || old->second != bytes) found.push_back(name);
+    }
+    return found;
+  }
+
+  test::TemporaryFolder folder;
+  Tree before;
+  std::unique_ptr<FileSystem> files = make_platform_file_system();
+  test::SampleEnvironment environment{*files, folder.path("game")};
+};
+
+TEST_F(HostileCells, TheBaitIsTakenWhereTheNamesArePlain) {
+  EXPECT_EQ(install("Group", {"P38H", "Region", "Skin", "0", "Model", "", "", "", "", ""}), "");
+  EXPECT_EQ(written(), (std::vector<std::string>{"game/P38H.flt", "game/Planes.dat", "game/bait.3dz",
+                                                 "game/loadout.dat"}));
+}
+
+TEST_F(HostileCells, NamesOfFoldersThatAreNotPlainCountAsFoldersThatDoNotExist) {
+  const std::vector<std::string> names = hostile_names();
+  ASSERT_GE(names.size(), 100u);
+  for (const std::string& name : names) {
+    SCOPED_TRACE(testing::PrintToString(name));
+    EXPECT_EQ(install(name, {"P38H", "", "", "0", "Model", "", "", "", "", ""}), "");
+    EXPECT_EQ(install(name, {"P38H", "", "", "0", "", "", "", "", "", ""}), "");
+    EXPECT_EQ(install("Group", {"P38H", "", "", "0", name, "", "", "", "", ""}), "");
+    EXPECT_EQ(install(name, {"P38H", "", "", "0", name, "", "", "", "", ""}), "");
+    EXPECT_EQ(install("", {"P38H", name, "Skin", "0", "", "", "", "", "", ""}), "");
+    EXPECT_EQ(install("", {"P38H", "Region", name, "0", "", "", "", "", "", ""}), "");
+    EXPECT_EQ(install("", {"P38H", name, name, "0", "", "", "", "", "", ""}), "");
+    ASSERT_EQ(written(), std::vector<std::string>{});
+  }
+}
+
+TEST_F(HostileCells, SlotThatCannotBePartOfAPlainFileNameEndsBeforeThatFileIsWritten) {
+  files->remove_file(folder.path("game\\~Vorlund\\FlightModels\\Group\\Model\\bait.oaw"));
+  before = folder.tree();
+  int refused = 0;
+  for (const std::string& name : hostile_names()) {
+    SCOPED_TRACE(testing::PrintToString(name));
+    const std::string report = install("Group", {name, "", "", "0", "Model", "", "", "", "", ""});
+    if (is_plain_name(name + ".flt")) {
+      EXPECT_EQ(report, "");
+      continue;
+    }
+    ++refused;
+    EXPECT_NE(report.find("column Slot of row 1"), std::string::npos) << report;
+    EXPECT_NE(report.find("can't be the name of a file in the game folder"), std::string::npos) << report;
+  }
+  EXPECT_GE(refused, 90);
+  for (const std::string& name : written()) {
+    EXPECT_TRUE(name == "game/loadout.dat" || (name.starts_with("game/") && name.rfind('/') == 4)) << name;
+  }
+}
+
+TEST_F(HostileCells, OverlongNamesAreFoldersThatDoNotExist) {
+  for (const std::size_t length : {300u, 5000u, 70000u}) {
+    const std::string name(length, 'x');
+    EXPECT_EQ(install(name, {"P38H", name, name, "0", name, "", "", "", "", ""}), "") << length;
+    EXPECT_EQ(install("Group", {"P38H", name, name, "0", name, "", "", "", "", ""}), "") << length;
+    EXPECT_EQ(install("Group", {"P38H", "Region", name, "0", "", "", "", "", "", ""}), "") << length;
+  }
+  EXPECT_EQ(written(), std::vector<std::string>{});
+}
+
+TEST_F(HostileCells, OfARecordAreReadAndInstalledWithoutHarm) {
+  std::string record = "Group\r\nheader\r\n";
+  for (const std::string& name : hostile_names()) {
+    record += "P38H\t" + name + "\tSkin\t0\t" + name + "\t" + name + "\t" + name + "\t" + name + "\t\t\r\n";
+  }
+  PlaneTable table;
+  parse_plane_set(record, table);
+  PilotNames names;
+  MenuEditor menu_editor(environment);
+  error_of([&] { install_aircraft_set(environment, table, names, menu_editor); });
+  for (const auto& [name, bytes] : before) {
+    if (name.starts_with("game/") && name.rfind('/') == 4) continue;
+    EXPECT_EQ(folder.read(name), bytes) << name;
+  }
+}
+
+#ifndef _WIN32
+TEST_F(HostileCells, LinksInASetNeverLeadAWriteOutside) {
+  namespace fs = std::filesystem;
+  const fs::path root = fs::u8path(folder.path());
+  const fs::path group = root / "game/~Vorlund/FlightModels/Group";
+  fs::create_symlink(root / "outside/bait.flt", group / "Planes.dat");
+  for (const char* name :
+       {"Planes.dat", "loadout.dat", "P38H.flt", "bait.3dz", "picplnb.mnu", "~vorlund.bak"}) {
+    fs::create_symlink(root / "outside/bait.flt", root / "game" / name);
+  }
+  fs::remove(root / "game/pnames.str");
+  fs::create_symlink(root / "outside/bait.lo1", root / "game/pnames.str");
+  EXPECT_NE(install("Group", {"P38H", "Region", "Skin", "0", "Model", "", "", "", "", ""}), "never run");
+  for (const auto& [name, bytes] : before) {
+    if (name.starts_with("game/")) continue;
+    EXPECT_EQ(folder.read(name), bytes) << name;
+  }
+}
+#endif
+
+}  // namespace
+}  // namespace vorlund
