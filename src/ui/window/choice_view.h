@@ -17,6 +17,7 @@ class ChoiceView : public Button {
     this->setObjectName(name);
     this->setCursor(Qt::PointingHandCursor);
     this->setAutoExclusive(false);
+    this->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
     QObject::connect(this, &QAbstractButton::clicked, this, [this] {
       if (on_click) on_click();
     });
@@ -35,6 +36,7 @@ class ChoiceView : public Button {
 
  protected:
   void nextCheckState() override {}
+  bool hitButton(const QPoint& point) const override { return this->rect().contains(point); }
 };
 
 using OptionButton = ChoiceView<QRadioButton>;

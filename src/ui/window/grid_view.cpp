@@ -13,7 +13,7 @@ namespace vorlund {
 
 namespace {
 
-constexpr int kHeaderPadding = 26;
+constexpr int kHeaderPadding = 20;
 constexpr int kCellPadding = 14;
 
 }  // namespace

@@ -81,6 +81,12 @@ void ListView::mouseDoubleClickEvent(QMouseEvent* event) {
   if (indexAt(event->position().toPoint()) != currentIndex()) mousePressEvent(event);
 }
 
+void ListView::focusInEvent(QFocusEvent* event) {
+  QListView::focusInEvent(event);
+  // Focus alone selects nothing: the first arrow key is to reach the first entry.
+  if (!selectionModel()->hasSelection()) selectionModel()->clearCurrentIndex();
+}
+
 void ListView::keyPressEvent(QKeyEvent* event) {
   const bool activates =
       event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter || event->key() == Qt::Key_Space;

@@ -12,7 +12,7 @@ namespace vorlund {
 
 namespace {
 
-constexpr int kListWidth = 176;
+constexpr int kListWidth = 164;
 
 OptionButton* make_option(PlaneOption option, QWidget* parent) {
   return new OptionButton(element_name("Option1", static_cast<int>(option)), parent);

@@ -1,0 +1,14 @@
+// Runs the window tests of the aircraft panes without a screen.
+#include <gtest/gtest.h>
+
+#include <QApplication>
+
+#include "ui/window/theme.h"
+
+int main(int argc, char** argv) {
+  testing::InitGoogleTest(&argc, argv);
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  QApplication application(argc, argv);
+  vorlund::theme::apply_to(application);
+  return RUN_ALL_TESTS();
+}
