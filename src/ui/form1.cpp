@@ -16,6 +16,7 @@ namespace {
 constexpr int kMenuLeft = 450;
 constexpr int kMenuWidth = 3300;
 constexpr int kLabelHeight = 480;
+constexpr int kTwoLineHeight = 735;
 
 void place_label(Label& label, int top) {
   label.place = {kMenuLeft, top, kMenuWidth, kLabelHeight};
@@ -47,9 +48,10 @@ Form1::Form1(FileSystem& files, Status& window, Version version)
   int top = 1500;
   for (Label& entry : Label9) place_label(entry, std::exchange(top, top + 555));
   top += 300;
-  for (Label* label : {&WhatsLoaded, &Label18, &Label5, &DelMSN, &Label7, &ExitButton}) {
+  for (Label* label : {&WhatsLoaded, &Label18, &Label5, &Label7, &ExitButton, &DelMSN}) {
     place_label(*label, std::exchange(top, top + 555));
   }
+  DelMSN.place.height = kTwoLineHeight;
 }
 
 void Form1::Form_Load() {

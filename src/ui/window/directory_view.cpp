@@ -4,23 +4,11 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "ui/window/theme.h"
+#include "ui/window/plate.h"
 
 namespace vorlund {
 
 namespace {
-
-/// A plain panel on the main window.
-class Panel : public QWidget {
- public:
-  using QWidget::QWidget;
-
- protected:
-  void paintEvent(QPaintEvent*) override {
-    QPainter painter(this);
-    theme::draw_plate(painter, rect(), theme::kPlate, theme::kEdge);
-  }
-};
 
 constexpr int kFolderRole = Qt::UserRole;
 
@@ -29,7 +17,7 @@ constexpr int kFolderRole = Qt::UserRole;
 DirectoryView::DirectoryView(Form1& form, const Perform& perform, QWidget* parent)
     : form_(form),
       parent_(parent),
-      panel_(new Panel(parent)),
+      panel_(new Plate(parent)),
       confirm_(new ActionLabel("Label17", ActionLabel::Look::kPrimary, panel_)),
       path_(new QLabel(panel_)),
       folders_(new QListWidget(panel_)) {

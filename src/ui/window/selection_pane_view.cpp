@@ -4,7 +4,7 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
-#include "ui/window/theme.h"
+#include "ui/window/plate.h"
 
 namespace vorlund {
 
@@ -22,9 +22,12 @@ SelectionPaneView::SelectionPaneView(Form1& form, const Perform& perform, QWidge
       perform_(perform),
       frame_(new PaneFrame("Frame3", PaneFrame::FreeArea::kHides, parent)),
       backdrop_(new PictureView("Image3", PictureFit::kCover, frame_)),
+      left_(new Plate(frame_)),
+      right_(new Plate(frame_)),
       heading_(add_text("Label42", 1.5)),
       list_(new QScrollArea(frame_)),
       list_board_(new QWidget),
+      advice_(add_text("Advice", 1.0)),
       group_(add_text("GroupLabel", 1.0)),
       folder_(add_text("FolderLabel", 1.4)),
       skin_code_(add_text("SkinLab2", 1.0)),
@@ -64,11 +67,13 @@ SelectionPaneView::SelectionPaneView(Form1& form, const Perform& perform, QWidge
   list_->setWidget(list_board_);
   list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   list_->setCursor(Qt::ArrowCursor);
-  list_->setStyleSheet("#SelectionLabels { background: rgba(12, 18, 26, 205); border-radius: 6px; }");
+  list_->viewport()->setAutoFillBackground(false);
   list_board_->setStyleSheet("background: transparent;");
   list_board_->setLayout(new QVBoxLayout);
   list_board_->layout()->setSpacing(1);
   picture_hint_->setText("Single click to load");
+  advice_->setText(
+      "Click a folder to see its picture and description. Double click it to choose it at once.");
   hide_hint_->setText("Make a selection, or click here to hide");
   lay_out();
 }
@@ -86,7 +91,7 @@ QLabel* SelectionPaneView::add_text(const QString& name, double size) {
 }
 
 void SelectionPaneView::lay_out() {
-  auto* left = new QVBoxLayout;
+  auto* left = new QVBoxLayout(left_);
   left->addWidget(heading_);
   left->addWidget(list_, 1);
   left->addWidget(hide_hint_);
@@ -100,18 +105,21 @@ void SelectionPaneView::lay_out() {
   commands->addWidget(hide_picture_);
   commands->addWidget(toggle_details_);
   commands->addWidget(hide_);
-  auto* right = new QVBoxLayout;
+  auto* right = new QVBoxLayout(right_);
+  right->setContentsMargins(16, 14, 16, 14);
   right->addWidget(group_);
   right->addWidget(folder_);
   right->addLayout(slot);
-  right->addWidget(picture_, 5);
-  right->addWidget(description_, 2);
+  right->addWidget(advice_);
+  right->addWidget(picture_, 500);
+  right->addWidget(description_, 200);
+  right->addStretch(1);
   right->addLayout(commands);
 
   auto* both = new QHBoxLayout;
   both->setSpacing(18);
-  both->addLayout(left, 3);
-  both->addLayout(right, 7);
+  both->addWidget(left_, 3);
+  both->addWidget(right_, 7);
   frame_->content()->addLayout(both);
 }
 
@@ -152,6 +160,7 @@ void SelectionPaneView::apply() {
   show_label(slot_group_, labels.Label43);
   show_label(slot_folder_, labels.Label45);
   picture_->apply(pane.Image1);
+  advice_->setVisible(pane.current_selection.empty());
   picture_hint_->setVisible(pane.Image1.visible);
   const QString text = QString::fromStdString(pane.Text1.text).replace("\r\n", "\n");
   if (description_->toPlainText() != text) description_->setPlainText(text);

@@ -31,10 +31,13 @@ class SelectionPaneView : public PaneView {
   Perform perform_;
   PaneFrame* frame_;
   PictureView* backdrop_;
+  QWidget* left_;
+  QWidget* right_;
   QLabel* heading_;
   QScrollArea* list_;
   QWidget* list_board_;
   std::vector<ActionLabel*> selections_;
+  QLabel* advice_;
   QLabel* group_;
   QLabel* folder_;
   QLabel* skin_code_;

@@ -1,0 +1,256 @@
+// The selection pane over game sets: opening groups, showing folders, choosing them.
+#include "models/selection_pane.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "support/sample_environment.h"
+#include "support/temporary_folder.h"
+
+namespace vorlund {
+namespace {
+
+class GameSelection : public ::testing::Test {
+ protected:
+  GameSelection() {
+    pane.mode = PaneMode::kGameSet;
+    for (const char* name :
+         {"Careers/Camp1", "Sky/Dusk", "Sky/dawn", "Sky/Noon", "Tweaks/Smoke", "Tweaks/Fire"}) {
+      folder.make_folder(std::string("~Vorlund/GameStore/") + name);
+    }
+    pane.make_group_labels({"Careers", "Sky", "Tweaks"});
+    for (const char* group : {"Careers", "Sky"}) game.table.G2.add_row({group, ""});
+    game.table.g2update();
+  }
+
+  std::vector<std::string> selections() const {
+    std::vector<std::string> captions;
+    for (const Label& label : pane.SelLab) captions.push_back(label.caption);
+    return captions;
+  }
+
+  void show(int group, int selection) {
+    pane.Label1_Click(group);
+    pane.SelLab_Click(selection);
+  }
+
+  void describe(const std::string& bytes) const {
+    folder.write("~Vorlund/GameStore/Sky/dawn/contents.txt", bytes);
+  }
+
+  test::TemporaryFolder folder;
+  std::unique_ptr<FileSystem> files = make_platform_file_system();
+  test::SampleEnvironment environment{*files, folder.path()};
+  MenuEditor menus{environment};
+  GamePane game{environment};
+  PlanePane plane{environment, menus};
+  FlightModelLists lists;
+  SelectionPane pane{environment, game, plane, lists};
+};
+
+TEST_F(GameSelection, OpeningAGroupListsItsFoldersByNameWithoutRegardToCase) {
+  game.GameFrame.visible = true;
+  plane.Frame1.visible = true;
+  pane.Text1.text = "old";
+  pane.Label1_Click(1);
+  EXPECT_EQ(selections(), (std::vector<std::string>{"dawn", "Dusk", "Noon"}));
+  EXPECT_EQ(pane.current_group, "Sky");
+  EXPECT_TRUE(pane.Frame3.visible);
+  EXPECT_TRUE(environment.labels.Label2.visible);
+  EXPECT_FALSE(game.GameFrame.visible);
+  EXPECT_FALSE(plane.Frame1.visible);
+  EXPECT_FALSE(pane.Text1.visible);
+  EXPECT_EQ(pane.Text1.text, "");
+  EXPECT_FALSE(pane.Image1.visible);
+  EXPECT_EQ(pane.Frame3.place.width, pane.screen.width);
+  EXPECT_EQ(pane.Image3.place.height, pane.Frame3.place.height);
+}
+
+TEST_F(GameSelection, SelectionLabelsStandOneBelowTheOther) {
+  pane.Label1_Click(1);
+  for (std::size_t index = 1; index < pane.SelLab.size(); ++index) {
+    EXPECT_GT(pane.SelLab[index].place.top, pane.SelLab[index - 1].place.top);
+    EXPECT_EQ(pane.SelLab[index].place.left, pane.SelLab[0].place.left);
+    EXPECT_TRUE(pane.SelLab[index].visible);
+  }
+}
+
+TEST_F(GameSelection, AGroupWithoutFoldersKeepsElementZeroWithItsOldCaption) {
+  folder.make_folder("~Vorlund/GameStore/Empty");
+  pane.make_group_labels({"Sky"});
+  pane.Label1_Click(1);
+  pane.Label1.front().caption = "Empty";
+  pane.Label1_Click(0);
+  EXPECT_EQ(selections(), (std::vector<std::string>{"dawn"}));
+  EXPECT_TRUE(pane.Frame3.visible);
+}
+
+TEST_F(GameSelection, ADescriptionOfThreeLinesShowsThreeLines) {
+  describe("A red evening.\r\nCalm \xE9t\xE9.\r\n\r\n");
+  show(1, 0);
+  EXPECT_EQ(pane.Text1.text, "A red evening.\r\nCalm \xC3\xA9t\xC3\xA9.\r\n\r\n");
+  EXPECT_TRUE(pane.Text1.visible);
+}
+
+TEST_F(GameSelection, ALineWithoutAnEndIsEndedAndWithoutAFileTheDescriptionIsEmpty) {
+  describe("one\ntwo");
+  show(1, 0);
+  EXPECT_EQ(pane.Text1.text, "one\r\ntwo\r\n");
+  pane.SelLab_Click(1);
+  EXPECT_EQ(pane.Text1.text, "");
+}
+
+TEST_F(GameSelection, AnEndlessDescriptionIsCutAtAMebibyte) {
+  describe(std::string(3U << 20, 'x'));
+  show(1, 0);
+  EXPECT_EQ(pane.Text1.text.size(), (1U << 20) + 2);
+}
+
+TEST_F(GameSelection, ShowsTheFirstPictureByNameElseTheDefaultPicture) {
+  folder.write("~Vorlund/SelPic", "default");
+  folder.write("~Vorlund/GameStore/Sky/dawn/View.JPG", "view");
+  folder.write("~Vorlund/GameStore/Sky/dawn/MyPic", "my");
+  folder.write("~Vorlund/GameStore/Sky/dawn/aaa.png", "no picture of ours");
+  show(1, 0);
+  EXPECT_EQ(*pane.Image1.picture.bytes, "my");
+  EXPECT_EQ(*pane.Image1.fallback.bytes, "default");
+  EXPECT_TRUE(pane.Image1.visible);
+  pane.SelLab_Click(1);
+  EXPECT_EQ(pane.Image1.picture.bytes, nullptr);
+  EXPECT_EQ(*pane.Image1.fallback.bytes, "default");
+}
+
+TEST_F(GameSelection, ShowsGroupAndFolderOfTheSelection) {
+  show(1, 2);
+  EXPECT_EQ(environment.labels.GroupLabel.caption, "Sky");
+  EXPECT_EQ(environment.labels.FolderLabel.caption, "Noon");
+  EXPECT_TRUE(environment.labels.GroupLabel.visible);
+  EXPECT_TRUE(environment.labels.FolderLabel.visible);
+  EXPECT_TRUE(pane.Label27[0].visible);
+  EXPECT_TRUE(pane.Label27[1].visible);
+}
+
+TEST_F(GameSelection, ChoosingReplacesTheFolderOfTheGroupsRowAndAddsNone) {
+  show(1, 1);
+  pane.Image1_Click();
+  EXPECT_EQ(game.table.G2.row_count(), 3);
+  EXPECT_EQ(game.table.G2.cell(2, GameTable::kFolder), "Dusk");
+  EXPECT_FALSE(game.table.G2.rows[2].hidden);
+  EXPECT_EQ(game.table.G2.row, 2);
+  EXPECT_FALSE(pane.Frame3.visible);
+  EXPECT_FALSE(environment.labels.GroupLabel.visible);
+  show(1, 2);
+  pane.SelLab_DblClick();
+  EXPECT_EQ(game.table.G2.row_count(), 3);
+  EXPECT_EQ(game.table.G2.cell(2, GameTable::kFolder), "Noon");
+}
+
+TEST_F(GameSelection, EveryRowOfTheGroupGetsTheFolder) {
+  game.table.G2.add_row({"Sky", "Dusk"});
+  show(1, 0);
+  pane.DoSel();
+  EXPECT_EQ(game.table.G2.cell(2, GameTable::kFolder), "dawn");
+  EXPECT_EQ(game.table.G2.cell(3, GameTable::kFolder), "dawn");
+}
+
+TEST_F(GameSelection, OfAGroupWithoutARowAddsNothingAndSaysSo) {
+  game.table.clear();
+  game.table.g2update();
+  show(1, 0);
+  pane.DoSel();
+  EXPECT_EQ(game.table.G2.row_count(), 1);
+  EXPECT_NE(environment.status.outcomes.back().find("no row for the group \"Sky\""), std::string::npos);
+}
+
+TEST_F(GameSelection, OfTheLastGroupAlwaysAddsARow) {
+  show(2, 0);
+  pane.DoSel();
+  show(2, 0);
+  pane.DoSel();
+  show(2, 1);
+  pane.DoSel();
+  ASSERT_EQ(game.table.G2.row_count(), 6);
+  EXPECT_EQ(game.table.G2.cell(3, GameTable::kFolder), "Fire");
+  EXPECT_EQ(game.table.G2.cell(4, GameTable::kFolder), "Fire");
+  EXPECT_EQ(game.table.G2.cell(5, GameTable::kFolder), "Smoke");
+  EXPECT_EQ(game.table.G2.row, 5);
+}
+
+TEST_F(GameSelection, ComparesGroupsByCharacterCodesSoLowerCaseSortsBehindUpperCase) {
+  folder.make_folder("~Vorlund/GameStore/sounds/Guns");
+  pane.remove_group_labels();
+  pane.make_group_labels({"Careers", "sounds", "Tweaks"});
+  show(1, 0);
+  pane.DoSel();
+  EXPECT_EQ(game.table.G2.cell(3, GameTable::kGroup), "sounds");
+}
+
+TEST_F(GameSelection, NeverOverwritesTheHeaderRow) {
+  folder.make_folder("~Vorlund/GameStore/Folder group/Trap");
+  pane.remove_group_labels();
+  pane.make_group_labels({"Folder group", "Tweaks"});
+  show(0, 0);
+  pane.DoSel();
+  EXPECT_EQ(game.table.G2.cell(0, GameTable::kFolder), "Folder name");
+}
+
+TEST_F(GameSelection, ChoosingWithoutASelectionDoesNothing) {
+  pane.Label1_Click(2);
+  pane.DoSel();
+  EXPECT_EQ(game.table.G2.row_count(), 3);
+  EXPECT_TRUE(pane.Frame3.visible);
+}
+
+TEST_F(GameSelection, MarksTheSelectionsThatAreInUse) {
+  game.table.G2.set_cell(2, GameTable::kFolder, "Dusk");
+  pane.Label1_Click(1);
+  EXPECT_EQ(pane.SelLab[0].text_colour, kWhite);
+  EXPECT_NE(pane.SelLab[1].text_colour, kWhite);
+  show(1, 0);
+  pane.DoSel();
+  EXPECT_NE(pane.SelLab[0].text_colour, kWhite);
+  EXPECT_EQ(pane.SelLab[1].text_colour, kWhite);
+}
+
+TEST_F(GameSelection, DetailsAndPictureAreHiddenAndShown) {
+  show(1, 0);
+  pane.Label27_Click(0);
+  EXPECT_FALSE(pane.Image1.visible);
+  pane.Label27_Click(1);
+  EXPECT_FALSE(pane.Text1.visible);
+  pane.SelLab_Click(1);
+  EXPECT_FALSE(pane.Text1.visible) << "details stay hidden until they are wanted again";
+  pane.Label27_Click(1);
+  EXPECT_TRUE(pane.Text1.visible);
+}
+
+TEST_F(GameSelection, AClickOnThePaneOrItsPictureHidesIt) {
+  pane.Label1_Click(1);
+  pane.Frame3_Click();
+  EXPECT_FALSE(pane.Frame3.visible);
+  pane.Label1_Click(1);
+  pane.Image3_Click();
+  EXPECT_FALSE(pane.Frame3.visible);
+  pane.Label1_Click(1);
+  environment.labels.Label2.visible = false;
+  pane.Label10_Click();
+  EXPECT_FALSE(pane.Frame3.visible);
+  EXPECT_TRUE(environment.labels.Label2.visible);
+}
+
+TEST_F(GameSelection, TheTableComesBackInFront) {
+  pane.Label1_Click(1);
+  pane.Label2_Click();
+  EXPECT_TRUE(game.GameFrame.visible);
+  EXPECT_FALSE(environment.labels.Label2.visible);
+  EXPECT_GT(game.GameFrame.depth, pane.Frame3.depth);
+  game.GameFrame.visible = false;
+  pane.Label41_Click();
+  EXPECT_TRUE(game.GameFrame.visible);
+}
+
+}  // namespace
+}  // namespace vorlund

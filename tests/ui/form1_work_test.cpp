@@ -1,0 +1,151 @@
+// Work that crosses panes: composing a game set, cleaning up, saving and loading set-ups.
+#include "core/action_error.h"
+#include "support/faulty_file_system.h"
+#include "ui/form_fixture.h"
+
+namespace vorlund {
+namespace {
+
+using test::left;
+using Work = test::FormFixture;
+
+int group_index(const Form1& form, std::string_view caption) {
+  for (std::size_t index = 0; index < form.selection.Label1.size(); ++index) {
+    if (form.selection.Label1[index].caption == caption) return static_cast<int>(index);
+  }
+  return -1;
+}
+
+void choose(Form1& form, std::string_view group, std::string_view name) {
+  form.selection.Label1_Click(group_index(form, group));
+  for (std::size_t index = 0; index < form.selection.SelLab.size(); ++index) {
+    if (form.selection.SelLab[index].caption == name) form.selection.SelLab_Click(static_cast<int>(index));
+  }
+  form.selection.Image1_Click();
+}
+
+TEST_F(Work, AGameSetIsComposedInstalledAndShownAtTheNextStart) {
+  start().Label9_MouseUp(1, left());
+  choose(*form, "Sky", "Dusk");
+  choose(*form, "Tweaks", "Fire");
+  form->selection.Label2_Click();
+  EXPECT_TRUE(form->game.GameFrame.visible);
+  form->game.GameLoad_Click();
+  EXPECT_EQ(folder.read("sky.pal"), "dusk");
+  EXPECT_EQ(folder.read("smoke.dat"), "smoke");
+  EXPECT_EQ(folder.read("fire.dat"), "fire");
+  EXPECT_EQ(form->status_line().caption,
+            "3 folders, 3 files copied, 1 kept in the store, 0 patches into eaw.exe");
+  EXPECT_EQ(folder.read("~Vorlund/CurrentGameSet.txt"),
+            "Folder group\tFolder name\r\nCareers\t\r\nSky\tDusk\r\nTweaks\tSmoke\r\nTweaks\tFire\r\n");
+  start();
+  EXPECT_EQ(form->game.table.G2.row_count(), 5);
+  EXPECT_EQ(form->game.table.G2.cell(4, GameTable::kFolder), "Fire");
+}
+
+TEST_F(Work, ClearingARowOfTheLastGroupRemovesIt) {
+  start().Label9_MouseUp(1, left());
+  form->game.G2_Click(3);
+  form->Label28_Click();
+  EXPECT_EQ(form->game.table.G2.row_count(), 3);
+}
+
+TEST_F(Work, CleanUpBringsCareersHomeDeletesAndEmptiesBothTablesAndRecords) {
+  folder.write("~Vorlund/CurrentGameSet.txt", "Folder group\tFolder name\r\nCareers\tCamp1\r\nSky\tDawn\r\n");
+  folder.write(
+      "~Vorlund/CurrentPlaneSet.txt",
+      "Standard\r\nSlot\r\nP38H\tUSAAF\tSilver\t0\tP38H\tLightning\tAmerican\tYes\tFighter\t100\r\n");
+  folder.write("Savedata/c1.sve", "career");
+  folder.write("sky.pal", "dawn");
+  folder.write("hof.dat", "fame");
+  start().Label9_MouseUp(1, left());
+  form->Label5_MouseUp(left());
+  EXPECT_EQ(folder.read("~Vorlund/GameStore/Careers/Camp1/c1.sve"), "career");
+  EXPECT_FALSE(folder.has("Savedata/c1.sve"));
+  EXPECT_FALSE(folder.has("sky.pal"));
+  EXPECT_EQ(folder.read("hof.dat"), "fame");
+  EXPECT_EQ(folder.read("~Vorlund/CurrentGameSet.txt"),
+            "Folder group\tFolder name\r\nCareers\t\r\nSky\t\r\n");
+  EXPECT_EQ(form->plane.table.G1.cell(1, PlaneTable::kSlot), "P38H");
+  EXPECT_EQ(form->plane.table.G1.cell(1, PlaneTable::kRegion), "");
+  EXPECT_EQ(form->plane.table.Label25[0].caption, "");
+  EXPECT_EQ(form->plane.table.Label25[1].caption, "");
+  EXPECT_TRUE(form->game.table.G2.rows[1].hidden);
+  EXPECT_EQ(form->selection.Label1.size(), 1U);
+  EXPECT_FALSE(form->selection.Label1[0].visible);
+  EXPECT_FALSE(form->labels().Label2.visible);
+  EXPECT_EQ(form->status_line().caption, "1 career save brought home, 1 loose file deleted");
+  start();
+  EXPECT_TRUE(form->game.table.G2.rows[2].hidden);
+}
+
+TEST_F(Work, DelMSNDeletesTheDefaultMissionsAlone) {
+  folder.write("Savedata/DEFAULT1.MSN", "");
+  folder.write("Savedata/Mine.msn", "");
+  start().DelMSN_MouseUp(left());
+  EXPECT_EQ(folder.names("Savedata"), (std::vector<std::string>{"Mine.msn"}));
+  form->DelMSN_MouseUp(left());
+  EXPECT_EQ(folder.names("Savedata"), (std::vector<std::string>{"Mine.msn"}));
+}
+
+TEST_F(Work, TheHeaderRowIsNeverASelectedRow) {
+  start();
+  form->game.G2_Click(0);
+  form->Label28_Click();
+  form->game.Label29_Click();
+  EXPECT_EQ(form->game.table.G2.row_count(), 4);
+  EXPECT_EQ(form->game.table.G2.cell(0, 0), "Folder group");
+}
+
+TEST_F(Work, ACareerSaveSurvivesEveryFaultOfTheCleanUpAndTheSecondTryCompletesIt) {
+  for (const auto span : {test::FaultSpan::kOnce, test::FaultSpan::kPersistent}) {
+    for (const auto kind :
+         {test::FaultKind::kError, test::FaultKind::kShortWrite, test::FaultKind::kDiskFull}) {
+      int number = 1;
+      for (bool struck = true; struck; ++number) {
+        const test::TemporaryFolder game;
+        game.write("~Vorlund/CurrentGameSet.txt", "Folder group\tFolder name\r\nCareers\tCamp1\r\n");
+        game.write("~Vorlund/GameStore/Careers/Camp1/c1.sve", "older");
+        game.make_folder("~Vorlund/SkinStore");
+        game.write("Savedata/c1.sve", "career one");
+        game.write("Savedata/C2.sve", "career two");
+        game.write("loose.dat", "loose");
+        game.write("eaw.exe", "MZ");
+        test::StartedInFolder started(*platform, game.path());
+        test::FaultyFileSystem faulty(started);
+        Form1 under_fault(faulty, window, {1, 0, 60});
+        under_fault.Form_Load();
+        faulty.arm({number, kind, span});
+        bool ended_with_error = false;
+        try {
+          under_fault.CleanUp();
+        } catch (const ActionError&) {
+          ended_with_error = true;
+        }
+        struck = faulty.struck();
+        SCOPED_TRACE("operation " + std::to_string(number) + ": " + faulty.struck_operation());
+        EXPECT_TRUE(ended_with_error || !faulty.failed());
+        for (const auto& [name, bytes] :
+             {std::pair("c1.sve", "career one"), std::pair("C2.sve", "career two")}) {
+          const std::string in_game = std::string("Savedata/") + name;
+          const std::string at_home = std::string("~Vorlund/GameStore/Careers/Camp1/") + name;
+          const bool safe = (game.has(in_game) && game.read(in_game) == bytes) ||
+                            (game.has(at_home) && game.read(at_home) == bytes);
+          EXPECT_TRUE(safe) << name;
+        }
+        EXPECT_TRUE(game.has("eaw.exe"));
+        if (!ended_with_error) continue;
+        Form1 again(started, window, {1, 0, 60});
+        again.Form_Load();
+        again.CleanUp();
+        EXPECT_TRUE(game.names("Savedata").empty() ||
+                    game.read("~Vorlund/CurrentGameSet.txt").find("Camp1") == std::string::npos);
+        EXPECT_FALSE(game.has("loose.dat"));
+      }
+      EXPECT_GT(number, kind == test::FaultKind::kError ? 8 : 4);
+    }
+  }
+}
+
+}  // namespace
+}  // namespace vorlund
