@@ -1,0 +1,61 @@
+# What the commands in this folder share: saying what is done, installing packages, building.
+# shellcheck shell=bash
+
+root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+jobs=$(nproc)
+
+# What any build of the program and its tools needs on Debian 12; fonts for the window.
+build_packages=(cmake ninja-build g++ googletest qt6-base-dev libgl-dev fonts-dejavu-core)
+
+say() {
+  printf '\n== %s\n' "$*"
+}
+
+fail() {
+  printf '%s: %s\n' "${0##*/}" "$*" >&2
+  exit 2
+}
+
+as_root() {
+  if [ "$(id -u)" -eq 0 ]; then
+    "$@"
+  elif command -v sudo >/dev/null; then
+    sudo "$@"
+  else
+    fail "packages have to be installed, which needs root or sudo"
+  fi
+}
+
+# Installs those of the named Debian packages that are missing.
+install_packages() {
+  local package missing=()
+  for package in "$@"; do
+    dpkg-query --show --showformat='${db:Status-Status}\n' "$package" 2>/dev/null | grep -qx installed ||
+      missing+=("$package")
+  done
+  if [ ${#missing[@]} -eq 0 ]; then
+    say "Packages: all there"
+    return
+  fi
+  say "Installing packages: ${missing[*]}"
+  as_root env DEBIAN_FRONTEND=noninteractive apt-get -qq update </dev/null ||
+    echo "The package lists could not all be brought up to date; going on with what is there."
+  as_root env DEBIAN_FRONTEND=noninteractive apt-get -qq install --yes --no-install-recommends \
+    -o DPkg::Lock::Timeout=300 -o Dpkg::Use-Pty=0 "${missing[@]}" </dev/null
+}
+
+# configure PRESET [CMAKE-ARGUMENT...]: prepares build/PRESET.
+configure() {
+  local preset=$1
+  shift
+  say "Configuring build/$preset"
+  (cd "$root" && cmake --preset "$preset" "$@" -Wno-dev --log-level=WARNING)
+}
+
+# build PRESET [TARGET...]: builds the named targets, or everything.
+build() {
+  local preset=$1
+  shift
+  say "Building build/$preset${*:+: $*}"
+  cmake --build "$root/build/$preset" --parallel "$jobs" ${*:+--target "$@"}
+}

@@ -1,0 +1,106 @@
+// The program is killed at its system calls during an installation: no file may be left half written.
+#include <gtest/gtest.h>
+
+#include <iostream>
+
+#include "kill/game_under_fire.h"
+#include "kill/traced_program.h"
+
+namespace vorlund::test {
+namespace {
+
+/// What a folder holds that differs from what was expected, by name.
+std::string difference(const Tree& expected, const Tree& found) {
+  std::string report;
+  for (const auto& [name, content] : expected) {
+    const auto other = found.find(name);
+    if (other == found.end()) report += name + " is missing; ";
+    if (other != found.end() && other->second != content) report += name + " differs; ";
+  }
+  for (const auto& [name, content] : found) {
+    if (!expected.contains(name)) report += name + " is left over; ";
+  }
+  return report;
+}
+
+class KilledInstall : public testing::Test {
+ protected:
+  void SetUp() override {
+    if (!TracedProgram::can_trace()) {
+      GTEST_SKIP() << "strace is not installed or may not watch programs here: nothing was killed";
+    }
+  }
+
+  std::string trace_file() const { return traces_.path() + "/trace"; }
+
+  /// Kills the installation at each of its calls, checks what is left, and then installs again.
+  void kill_at_each_call(const TracedProgram& program) const {
+    const Trace trace = undisturbed(program);
+    ASSERT_FALSE(trace.during.empty());
+    int kills = 0;
+    for (const auto& [call, count] : trace.during) {
+      const auto before = trace.before.find(call);
+      int offset = before == trace.before.end() ? 0 : before->second;
+      for (int number = 1; number <= count; ++number) {
+        SCOPED_TRACE(call + " number " + std::to_string(number) + " of " + std::to_string(count));
+        kill_at(program, call, number, offset);
+        if (HasFailure()) return;
+        ++kills;
+      }
+    }
+    std::cout << "killed " << kills << " times, at each call of " << trace.during.size() << " names\n";
+    RecordProperty("kills", kills);
+  }
+
+ private:
+  /// Runs the installation to its end under strace and checks what it leaves.
+  Trace undisturbed(const TracedProgram& program) const {
+    const TemporaryFolder folder;
+    game_.lay_out(folder);
+    Trace trace;
+    const Ending ending = program.run_traced(folder.path(), trace);
+    EXPECT_EQ(ending.exit_code, 0);
+    EXPECT_TRUE(trace.begun && trace.ended);
+    EXPECT_EQ(difference(game_.installed(), folder.tree()), "");
+    return trace;
+  }
+
+  /// `offset` is how many calls of that name come before the installation. A window may make a few more or
+  /// fewer of them from run to run: then it is corrected and the kill repeated.
+  void kill_at(const TracedProgram& program, const std::string& call, int number, int& offset) const {
+    constexpr int kAttempts = 20;
+    for (int attempt = 0; attempt < kAttempts; ++attempt) {
+      const TemporaryFolder folder;
+      game_.lay_out(folder);
+      Trace trace;
+      const Ending ending = program.run_killed(folder.path(), call, number + offset, trace);
+      ASSERT_EQ(game_.damage(folder.tree()), "");
+      const int met = trace.begun ? trace.during[call] : 0;
+      if (ending.killed && !trace.ended && met == number) {
+        ASSERT_EQ(program.run(folder.path()).exit_code, 0);
+        ASSERT_EQ(difference(game_.installed(), folder.tree()), "");
+        return;
+      }
+      offset += !trace.begun ? 1 : trace.ended || !ending.killed ? -1 : number - met;
+    }
+    FAIL() << "in " << kAttempts << " attempts the program was never killed at this call";
+  }
+
+  TemporaryFolder traces_;
+  GameUnderFire game_;
+};
+
+TEST_F(KilledInstall, LeavesWholeFilesAndIsMadeGoodByTheNextRun) {
+  kill_at_each_call(TracedProgram(HEADLESS_INSTALL, trace_file()));
+}
+
+#ifdef WINDOW_INSTALL
+
+TEST_F(KilledInstall, OfTheRealWindowLeavesWholeFilesAndIsMadeGoodByTheNextRun) {
+  kill_at_each_call(TracedProgram(WINDOW_INSTALL, trace_file()));
+}
+
+#endif
+
+}  // namespace
+}  // namespace vorlund::test

@@ -1,0 +1,16 @@
+// Calls that show in a trace where an installation begins and ends.
+#pragma once
+
+#include <unistd.h>
+
+namespace vorlund::test {
+
+// Names of files that are not there: asking for one changes nothing.
+inline constexpr char kInstallBegins[] = "the-install-begins";
+inline constexpr char kInstallHasEnded[] = "the-install-has-ended";
+
+inline void mark(const char* name) {
+  static_cast<void>(::access(name, F_OK));
+}
+
+}  // namespace vorlund::test

@@ -1,0 +1,101 @@
+// Starts strace and reads what it writes.
+#include "kill/traced_program.h"
+
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cctype>
+#include <cerrno>
+#include <csignal>
+#include <cstdlib>
+#include <fstream>
+#include <stdexcept>
+
+#include "kill/marks.h"
+
+namespace vorlund::test {
+
+namespace {
+
+/// Starts a command inside a folder and waits for its end. Nothing is asked of the keyboard.
+Ending run_command(const std::vector<std::string>& command, const std::string& folder) {
+  std::vector<char*> arguments;
+  for (const std::string& argument : command) arguments.push_back(const_cast<char*>(argument.c_str()));
+  arguments.push_back(nullptr);
+  const pid_t child = ::fork();
+  if (child < 0) throw std::runtime_error("cannot start " + command.front());
+  if (child == 0) {
+    if (::chdir(folder.c_str()) != 0) ::_exit(127);
+    ::setenv("QT_QPA_PLATFORM", "offscreen", 1);
+    ::execvp(arguments.front(), arguments.data());
+    ::_exit(127);
+  }
+  int status = 0;
+  while (::waitpid(child, &status, 0) < 0) {
+    if (errno != EINTR) throw std::runtime_error("cannot wait for " + command.front());
+  }
+  Ending ending;
+  ending.killed = WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL;
+  if (WIFEXITED(status)) ending.exit_code = WEXITSTATUS(status);
+  return ending;
+}
+
+/// The name of the call that a line of the trace, without its process number, tells of; "" for other lines.
+std::string call_name(const std::string& line) {
+  std::size_t length = 0;
+  while (length < line.size() &&
+         (std::isalnum(static_cast<unsigned char>(line[length])) || line[length] == '_'))
+    ++length;
+  return length < line.size() && line[length] == '(' ? line.substr(0, length) : "";
+}
+
+Trace read_trace(const std::string& path) {
+  Trace trace;
+  std::ifstream lines(path);
+  std::string first_thread;
+  for (std::string thread, line; lines >> thread && std::getline(lines >> std::ws, line);) {
+    if (first_thread.empty()) first_thread = thread;
+    if (thread != first_thread) continue;
+    const std::string name = call_name(line);
+    if (name.empty()) continue;
+    if (line.find(kInstallHasEnded) != std::string::npos) trace.ended = true;
+    if (!trace.ended) ++(trace.begun ? trace.during : trace.before)[name];
+    if (line.find(kInstallBegins) != std::string::npos) trace.begun = true;
+  }
+  return trace;
+}
+
+}  // namespace
+
+bool TracedProgram::can_trace() {
+  return run_command({"strace", "-o", "/dev/null", "true"}, "/").exit_code == 0;
+}
+
+Ending TracedProgram::run(const std::string& folder) const {
+  return run_command({program_}, folder);
+}
+
+Ending TracedProgram::run_traced(const std::string& folder, Trace& trace) const {
+  return run_under_strace(folder, {"-e", "trace=%file,%desc"}, trace);
+}
+
+Ending TracedProgram::run_killed(const std::string& folder, const std::string& call, int number,
+                                 Trace& trace) const {
+  // The marks are watched as well; which of the two calls makes them depends on the processor.
+  return run_under_strace(folder,
+                          {"-e", "trace=?access,?faccessat," + call, "-e",
+                           "inject=" + call + ":signal=KILL:when=" + std::to_string(number)},
+                          trace);
+}
+
+Ending TracedProgram::run_under_strace(const std::string& folder, const std::vector<std::string>& options,
+                                       Trace& trace) const {
+  std::vector<std::string> command = {"strace", "-f", "-qq", "-o", trace_file_};
+  command.insert(command.end(), options.begin(), options.end());
+  command.push_back(program_);
+  const Ending ending = run_command(command, folder);
+  trace = read_trace(trace_file_);
+  return ending;
+}
+
+}  // namespace vorlund::test

@@ -1,0 +1,51 @@
+// Runs a program while its system calls are watched, or while it is killed at one of them.
+#pragma once
+
+#include <map>
+#include <string>
+#include <vector>
+
+namespace vorlund::test {
+
+/// How a program ended.
+struct Ending {
+  bool killed = false;  ///< by SIGKILL
+  int exit_code = -1;   ///< -1 when a signal ended it
+};
+
+/// The calls that the first thread of a program made to files and descriptors.
+struct Trace {
+  bool begun = false;                 ///< the installation was reached
+  bool ended = false;                 ///< and run to its end
+  std::map<std::string, int> before;  ///< calls of each name before the installation
+  std::map<std::string, int> during;  ///< calls of each name in it
+};
+
+/// A program that is run inside a folder, off-screen where it has a window.
+class TracedProgram {
+ public:
+  /// `trace_file` is written by the runs under strace.
+  TracedProgram(std::string program, std::string trace_file)
+      : program_(std::move(program)), trace_file_(std::move(trace_file)) {}
+
+  /// True where strace is installed and may watch other programs.
+  static bool can_trace();
+
+  Ending run(const std::string& folder) const;
+
+  /// Runs the program to its end and tells the calls it made.
+  Ending run_traced(const std::string& folder, Trace& trace) const;
+
+  /// Kills the program as it enters its call number `number` (from 1) of that name; the call is not made.
+  /// The trace tells only of calls of that name.
+  Ending run_killed(const std::string& folder, const std::string& call, int number, Trace& trace) const;
+
+ private:
+  Ending run_under_strace(const std::string& folder, const std::vector<std::string>& options,
+                          Trace& trace) const;
+
+  std::string program_;
+  std::string trace_file_;
+};
+
+}  // namespace vorlund::test

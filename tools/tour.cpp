@@ -1,0 +1,241 @@
+// The steps of the typical use and their screenshots.
+#include "tour.h"
+
+#include <QAbstractItemView>
+#include <QDirIterator>
+#include <QElapsedTimer>
+#include <QProgressBar>
+#include <QTimer>
+#include <cstdio>
+#include <stdexcept>
+
+namespace vorlund {
+
+namespace {
+
+constexpr QSize kWindowSize{1280, 800};
+
+QString text_of(const QWidget& widget) {
+  return widget.property("text").toString();
+}
+
+void say(const QString& line) {
+  std::printf("%s\n", line.toUtf8().constData());
+  std::fflush(stdout);
+}
+
+/// Takes a picture of a long action half-way through.
+class WorkWatch {
+ public:
+  explicit WorkWatch(QWidget& window) {
+    QObject::connect(&timer_, &QTimer::timeout, [this, &window] {
+      const auto* bar = window.findChild<QProgressBar*>("Progress");
+      if (!picture_.isNull() || bar == nullptr || !bar->isVisible()) return;
+      if (2 * bar->value() > bar->maximum()) picture_ = window.grab();
+    });
+    timer_.start(5);
+  }
+
+  /// Null where the action was over too soon to be seen.
+  const QPixmap& picture() const { return picture_; }
+
+ private:
+  QTimer timer_;
+  QPixmap picture_;
+};
+
+}  // namespace
+
+Tour::Tour(MainWindow& window, const QDir& folder, int& next_number)
+    : window_(window), hand_(window), folder_(folder), next_number_(next_number) {
+  window_.resize(kWindowSize);
+  hand_.wait();
+}
+
+void Tour::use() {
+  start();
+  game_work();
+  aircraft_work();
+  other_panes();
+  click("ExitButton");
+}
+
+void Tour::look_again() {
+  click("Label17");
+  if (hand_.sees("WhatsLoaded")) {
+    click("WhatsLoaded");
+    show("next-start", "The next start: \"Whats Loaded?\" shows what is installed");
+  } else {
+    say("  Nothing is recorded as installed.");
+  }
+  click("ExitButton");
+}
+
+void Tour::start() {
+  show("start", "The program has started in the game folder");
+  click("Label17");
+  show("confirmed", "The game folder is confirmed");
+}
+
+void Tour::game_work() {
+  click("Label9(1)");
+  const QStringList groups = captions("Label1");
+  show("game-settings", "\"Make Game Settings\": the groups of the store");
+  if (groups.isEmpty()) {
+    say("  The store has no game sets.");
+    return;
+  }
+  // Of the groups that stand in the game table the one that holds the largest folder, and the last group,
+  // which may stand in it with several folders.
+  const QDir store(QDir::current().filePath("~Vorlund/GameStore"));
+  QString large_group = groups.last();
+  QString large_folder;
+  uint most = 0;
+  const Grid& table = window_.form().game.table.G2;
+  for (int row = 1; row < table.row_count(); ++row) {
+    const QString group = QString::fromStdString(table.cell(row, GameTable::kGroup));
+    if (!groups.contains(group)) continue;
+    const QDir folders(store.filePath(group));
+    for (const QString& name : folders.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+      const uint files = QDir(folders.filePath(name)).count();
+      if (files <= most) continue;
+      most = files;
+      large_group = group;
+      large_folder = name;
+    }
+  }
+  if (!large_folder.isEmpty()) choose_game_folder(large_group, large_folder, "set");
+  choose_game_folder(groups.last(), {}, "last-group");
+  click("Label2");
+  show("game-table", "\"Show Game Table\": the rows, the last to be installed at the end");
+  arrange_rows();
+  process_game_set();
+}
+
+void Tour::choose_game_folder(const QString& group, const QString& folder, const QString& picture) {
+  click_captioned("Label1", group);
+  show(picture + "-group", "The group \"" + group + "\" and its folders");
+  const QStringList folders = captions("SelLab");
+  const QString chosen = folder.isEmpty() && !folders.isEmpty() ? folders.first() : folder;
+  if (!click_captioned("SelLab", chosen)) {
+    say("  The group \"" + group + "\" has no folders.");
+    click("Label10(2)");
+    return;
+  }
+  show(picture, "The folder \"" + chosen + "\": its picture and description");
+  click("Image1");
+  show(picture + "-chosen", "A click on the picture has chosen it");
+}
+
+void Tour::arrange_rows() {
+  const auto* view = qobject_cast<QAbstractItemView*>(hand_.find("G2"));
+  if (view == nullptr || view->model()->rowCount() < 3) {
+    say("  The game table is too short to arrange anything.");
+    return;
+  }
+  click_row("G2", 0);
+  click("Label29");
+  show("row-moved", "The first row was moved to the end, to load last");
+  click_row("G2", 1);
+  click("Label28");
+  show("row-cleared", "The second row was cleared");
+}
+
+void Tour::process_game_set() {
+  const WorkWatch watch(window_);
+  QElapsedTimer time;
+  time.start();
+  click("GameLoad");
+  const qint64 took = time.elapsed();
+  if (!watch.picture().isNull()) save(watch.picture(), "working", "\"Process!\" at work");
+  show("installed", QString("The game set is installed (%1 ms)").arg(took));
+}
+
+void Tour::aircraft_work() {
+  click("Label9(0)");
+  show("aircraft-settings", "\"Make Aircraft Settings\": the groups of skins");
+  if (captions("Label1").isEmpty()) {
+    say("  The store has no skins.");
+    return;
+  }
+  choose_skin();
+  click("Label2");
+  show("plane-table", "\"Show Plane Table\": slots, skins and flight models");
+  compose_planes();
+}
+
+void Tour::choose_skin() {
+  click("Label1(0)");
+  if (captions("SelLab").isEmpty()) {
+    click("Label10(2)");
+    return;
+  }
+  click("SelLab(0)");
+  show("skin", "A skin: its picture, and what its slot wears now");
+  click("Image1");
+  show("skin-chosen", "A click on the picture has put it into the plane table");
+}
+
+void Tour::compose_planes() {
+  const auto* models = qobject_cast<QAbstractItemView*>(hand_.find("List2"));
+  if (models == nullptr || models->model()->rowCount() == 0) {
+    say("  The current group of flight models has none.");
+    return;
+  }
+  click_row("G1", 0);
+  click("Option1(3)");
+  click_row("List2", 0);
+  show("flight-model", "\"Find FM for selected slot\": the slot has a flight model");
+  click("Option1(0)");
+  click_row("List2", 0);
+  show("possible-skins", "\"Match skin to selected FM\": the skins that may fit it");
+  if (!hand_.sees("GameFrame") && !hand_.sees("Frame1")) click("Label2");
+  click("Label8");
+  show("aircraft-installed", "The aircraft set is installed");
+}
+
+void Tour::other_panes() {
+  click("Label9(2)");
+  show("flight-model-groups", "\"Set the Flight Model\": the groups of flight models");
+  click("Label9(3)");
+  show("saved-set-ups", "\"Load saved set-ups\"");
+}
+
+void Tour::click(const QString& name) {
+  hand_.click(name);
+  if (window_.failed()) throw std::runtime_error("the program has ended with an error");
+}
+
+void Tour::click_row(const QString& table, int row) {
+  hand_.click_row(table, row);
+  if (window_.failed()) throw std::runtime_error("the program has ended with an error");
+}
+
+void Tour::show(const QString& name, const QString& what) {
+  save(window_.grab(), name, what);
+}
+
+void Tour::save(const QPixmap& picture, const QString& name, const QString& what) {
+  const QString file = QString("%1-%2.png").arg(next_number_++, 2, 10, QChar('0')).arg(name);
+  if (!picture.save(folder_.filePath(file))) {
+    throw std::runtime_error("can't write " + folder_.filePath(file).toStdString());
+  }
+  say(QString("  %1 %2").arg(file, -32).arg(what));
+}
+
+bool Tour::click_captioned(const QString& array, const QString& caption) {
+  const qsizetype index = captions(array).indexOf(caption);
+  if (index >= 0) click(QString("%1(%2)").arg(array).arg(index));
+  return index >= 0;
+}
+
+QStringList Tour::captions(const QString& array) const {
+  QStringList found;
+  for (int index = 0;; ++index) {
+    const QWidget* label = hand_.find(QString("%1(%2)").arg(array).arg(index));
+    if (label == nullptr) return found;
+    found.append(text_of(*label));
+  }
+}
+
+}  // namespace vorlund
