@@ -61,9 +61,8 @@ char32_t upper_cyrillic(char32_t character) {
 
 }  // namespace
 
-char32_t next_character(std::string_view text, std::size_t& at) {
+char32_t next_long_character(std::string_view text, std::size_t& at) {
   const auto lead = static_cast<unsigned char>(text[at++]);
-  if (lead < 0x80) return lead;
   const Sequence sequence = sequence_of(lead);
   if (sequence.length == 0 || text.size() - at < sequence.length - 1) return kStrayByte + lead;
 
@@ -101,8 +100,7 @@ void append_character(std::string& text, char32_t character) {
   }
 }
 
-char32_t upper_character(char32_t character) {
-  if (character < 0x80) return within(character, 'a', 'z') ? character - 0x20 : character;
+char32_t upper_long_character(char32_t character) {
   if (character < 0x180) return upper_latin(character);
   if (within(character, 0x370, 0x3FF)) return upper_greek(character);
   if (within(character, 0x400, 0x52F)) return upper_cyrillic(character);

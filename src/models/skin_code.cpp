@@ -1,6 +1,8 @@
 // Finds the plane code in the names of a skin's files.
 #include "models/skin_code.h"
 
+#include <algorithm>
+
 #include "aircraft/plane_codes.h"
 #include "core/listing.h"
 #include "core/text.h"
@@ -17,11 +19,13 @@ std::string first_file_code(const std::vector<FolderEntry>& entries, std::string
 }
 
 int plane_number(std::string_view code) {
-  static const PlaneCodes codes = PlaneCodeSet();
-  for (std::size_t index = 0; index < codes.size(); ++index) {
-    if (same_name(code, codes[index])) return static_cast<int>(index);
-  }
-  return -1;
+  static const PlaneCodes upper_codes = [] {
+    PlaneCodes codes = PlaneCodeSet();
+    for (std::string& plane_code : codes) plane_code = to_upper(plane_code);
+    return codes;
+  }();
+  const auto found = std::find(upper_codes.begin(), upper_codes.end(), to_upper(code));
+  return found == upper_codes.end() ? -1 : static_cast<int>(found - upper_codes.begin());
 }
 
 }  // namespace vorlund

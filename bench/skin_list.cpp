@@ -1,0 +1,133 @@
+// Measures building the skin list against `find` over the same tree, its growth, and matching a flight model.
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "core/environment.h"
+#include "menus/menu_editor.h"
+#include "models/flight_model_browser.h"
+#include "models/skin_list.h"
+
+namespace {
+
+using namespace vorlund;
+namespace fs = std::filesystem;
+
+constexpr int kFoldersOfGroup = 20;
+constexpr int kRounds = 5;
+
+/// A store of skin folders, 20 to a group, 6 files in each, removed at the end.
+class SkinStore {
+ public:
+  explicit SkinStore(int folders)
+      : folder_(fs::temp_directory_path() / ("vorlund skins " + std::to_string(folders))) {
+    fs::remove_all(folder_);
+    for (int index = 0; index < folders; ++index) {
+      const fs::path skin = store() / ("Group " + std::to_string(index / kFoldersOfGroup)) /
+                            ("Skin " + std::to_string(index % kFoldersOfGroup));
+      fs::create_directories(skin);
+      for (const char* name :
+           {"psp09.3dz", "psp09n.3dz", "psp09.tpc", "vcgsp09.dat", "mypic", "contents.txt"}) {
+        std::ofstream(skin / name) << "x";
+      }
+    }
+  }
+  ~SkinStore() { fs::remove_all(folder_); }
+  SkinStore(const SkinStore&) = delete;
+  SkinStore& operator=(const SkinStore&) = delete;
+
+  fs::path store() const { return folder_ / "~Vorlund" / "SkinStore"; }
+  std::string game_directory() const { return folder_.string(); }
+
+ private:
+  fs::path folder_;
+};
+
+/// The window object's surroundings over the real disk.
+struct Surroundings {
+  std::unique_ptr<FileSystem> files = make_platform_file_system();
+  GameDirectory game{*files};
+  Status status;
+  FrameOrder frames;
+  SharedLabels labels;
+  Environment environment{*files, game, status, frames, labels};
+
+  explicit Surroundings(const SkinStore& store) { game.Label16.caption = store.game_directory(); }
+};
+
+double seconds_of(const std::function<void()>& work) {
+  const auto start = std::chrono::steady_clock::now();
+  work();
+  return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+}
+
+double median(std::vector<double> values) {
+  std::sort(values.begin(), values.end());
+  return values[values.size() / 2];
+}
+
+void make_list(Surroundings& surroundings) {
+  const FileSystem::Action action(*surroundings.files);
+  MakeSkinList(surroundings.environment);
+}
+
+void run_find(const SkinStore& store) {
+  const std::string command = "find '" + store.store().string() + "' > /dev/null";
+  if (std::system(command.c_str()) != 0) std::abort();
+}
+
+/// The list and `find` take turns, so that both meet the same state of the machine.
+void skin_list_against_find(benchmark::State& state) {
+  const SkinStore store(static_cast<int>(state.range(0)));
+  Surroundings surroundings(store);
+  std::vector<double> list;
+  std::vector<double> find;
+  run_find(store);
+  for ([[maybe_unused]] auto round : state) {
+    list.push_back(seconds_of([&] { make_list(surroundings); }));
+    find.push_back(seconds_of([&] { run_find(store); }));
+    state.SetIterationTime(list.back());
+  }
+  state.counters["find_ms"] = 1000 * median(find);
+  state.counters["of_find"] = median(list) / median(find);
+}
+BENCHMARK(skin_list_against_find)
+    ->RangeMultiplier(2)
+    ->Range(1000, 16000)
+    ->Arg(10000)
+    ->Iterations(2 * kRounds + 1)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
+
+/// The worst case: no skin's name holds any character of the flight model's.
+void match_flight_model(benchmark::State& state) {
+  const SkinStore store(static_cast<int>(state.range(0)));
+  fs::create_directories(fs::path(store.game_directory()) / "~Vorlund" / "FlightModels" / "Late" /
+                         "_=_=_=_=_");
+  Surroundings surroundings(store);
+  MenuEditor menu_editor(surroundings.environment);
+  GamePane game(surroundings.environment);
+  PlanePane plane(surroundings.environment, menu_editor);
+  FlightModelLists lists;
+  SelectionPane selection(surroundings.environment, game, plane, lists);
+  PossibleSkins skins(surroundings.environment, plane, selection.Frame3, selection.Text1);
+  FlightModelBrowser browser(surroundings.environment, plane, selection, skins, lists);
+  plane.table.set_flight_model_group("Late");
+  browser.DoFM();
+  browser.Option1_Click(static_cast<int>(PlaneOption::kMatchSkin));
+  lists.List2.selected = 0;
+  for ([[maybe_unused]] auto round : state) browser.List2_Click();
+  state.counters["entries"] = static_cast<double>(skins.List4.items.size());
+}
+BENCHMARK(match_flight_model)->Arg(10000)->Iterations(kRounds)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+
+BENCHMARK_MAIN();

@@ -1,0 +1,22 @@
+// Fuzzes the readers of ".lo1" and ".lo2" files. The first byte of the input chooses the record number.
+#include "aircraft/loadout_data.h"
+#include "surroundings.h"
+
+using namespace vorlund;
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  if (size == 0) return 0;
+  fuzz::Surroundings surroundings;
+  const std::string_view text = fuzz::as_bytes(data + 1, size - 1);
+  surroundings.write("\\Model\\guns.lo1", text);
+  surroundings.write("\\Model\\bombs.lo2", text);
+  PlaneTable table;
+  table.fill_slots();
+  table.G1.set_cell(1, PlaneTable::kRecordNumber, std::to_string(data[0] % 34 - 1));
+  fuzz::run_action([&] {
+    FileList selected;
+    selected.path = surroundings.game.path("\\Model");
+    LoadOutWrite(surroundings.environment, table, 1, selected);
+  });
+  return 0;
+}
