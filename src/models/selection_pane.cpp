@@ -13,6 +13,7 @@ namespace {
 
 constexpr Colour kMarked = 0xFFC94D;
 constexpr int kGroupLeft = 4200;
+constexpr int kGroupTop = 1500;
 constexpr int kGroupStep = 500;
 constexpr int kGroupColumn = 3000;
 constexpr int kRoomBelowGroups = 2000;
@@ -24,7 +25,7 @@ constexpr std::uint64_t kLongestDescription = 1ULL << 20;
 SelectionPane::SelectionPane(Environment& environment, GamePane& game, PlanePane& plane,
                              FlightModelLists& lists)
     : environment_(environment), game_(game), plane_(plane), lists_(lists) {
-  Label1.push_back({"", false, {kGroupLeft, group_top_, 2800, 420}});
+  Label1.push_back({"", false, {kGroupLeft, kGroupTop, 2800, 420}});
   SelLab.push_back({"", false, {0, 0, 4200, 420}});
   Text1.visible = false;
   Image1.visible = false;
@@ -35,7 +36,7 @@ void SelectionPane::Label1Make() {
   label.visible = true;
   label.place.top += kGroupStep;
   if (label.place.top > screen.height - kRoomBelowGroups) {
-    label.place.top = group_top_;
+    label.place.top = kGroupTop;
     label.place.left += kGroupColumn;
   }
   Label1.push_back(label);

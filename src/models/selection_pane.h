@@ -89,7 +89,6 @@ class SelectionPane {
   GamePane& game_;
   PlanePane& plane_;
   FlightModelLists& lists_;
-  int group_top_ = 900;
   bool details_wanted_ = true;
 };
 

@@ -15,8 +15,10 @@ namespace {
 
 constexpr int kMenuLeft = 450;
 constexpr int kMenuWidth = 3300;
-constexpr int kLabelHeight = 480;
-constexpr int kTwoLineHeight = 735;
+constexpr int kMenuTop = 1500;
+constexpr int kLabelStep = 500;
+constexpr int kLabelHeight = 420;
+constexpr int kTwoLineHeight = 690;
 
 void place_label(Label& label, int top) {
   label.place = {kMenuLeft, top, kMenuWidth, kLabelHeight};
@@ -45,11 +47,11 @@ Form1::Form1(FileSystem& files, Status& window, Version version)
   Label9[1].caption = "Make Game Settings";
   Label9[2].caption = "Set the Flight Model";
   Label9[3].caption = "Load saved set-ups";
-  int top = 1500;
-  for (Label& entry : Label9) place_label(entry, std::exchange(top, top + 555));
+  int top = kMenuTop;
+  for (Label& entry : Label9) place_label(entry, std::exchange(top, top + kLabelStep));
   top += 300;
   for (Label* label : {&WhatsLoaded, &Label18, &Label5, &Label7, &ExitButton, &DelMSN}) {
-    place_label(*label, std::exchange(top, top + 555));
+    place_label(*label, std::exchange(top, top + kLabelStep));
   }
   DelMSN.place.height = kTwoLineHeight;
 }
