@@ -1,0 +1,154 @@
+// Prepares folders and takes times.
+#include "game_install.h"
+
+#include <fcntl.h>
+#include <spawn.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <cstdio>
+#include <fstream>
+#include <memory>
+#include <stdexcept>
+#include <string>
+
+#include "core/environment.h"
+#include "gamesets/game_installer.h"
+
+extern char** environ;
+
+namespace vorlund::bench {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+class Stopwatch {
+ public:
+  double seconds() const {
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - started_).count();
+  }
+
+ private:
+  std::chrono::steady_clock::time_point started_ = std::chrono::steady_clock::now();
+};
+
+/// Bytes without a pattern, others for each seed.
+std::string made(std::uint64_t seed, std::uint64_t size) {
+  std::string bytes(size, '\0');
+  std::uint64_t state = seed * 0x9E3779B97F4A7C15ULL + 1;
+  for (std::size_t at = 0; at < bytes.size(); ++at) {
+    if (at % 8 == 0) {
+      state ^= state << 13;
+      state ^= state >> 7;
+      state ^= state << 17;
+    }
+    bytes[at] = static_cast<char>(state >> (at % 8 * 8));
+  }
+  return bytes;
+}
+
+/// Waits until what was written to the disk of the folder is there.
+void settle(const fs::path& folder) {
+  const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY);
+  if (descriptor < 0 || ::syncfs(descriptor) != 0)
+    throw std::runtime_error("cannot write out " + folder.string());
+  ::close(descriptor);
+}
+
+}  // namespace
+
+GameInstall::GameInstall(fs::path root, std::uint64_t files, std::uint64_t bytes)
+    : root_(std::move(root)),
+      game_(root_ / "game"),
+      set_(game_ / "~Vorlund/GameStore/Group/Set"),
+      reference_(root_ / "reference"),
+      files_(files),
+      bytes_(bytes) {
+  fs::remove_all(root_);
+  fs::create_directories(set_);
+  fs::create_directories(reference_);
+  write_files(set_, "file", 1);
+}
+
+GameInstall::~GameInstall() {
+  std::error_code ignored;
+  fs::remove_all(root_, ignored);
+}
+
+void GameInstall::write_files(const fs::path& folder, const char* prefix, unsigned seed) const {
+  for (std::uint64_t index = 0; index < files_; ++index) {
+    char name[32];
+    std::snprintf(name, sizeof name, "%s%06u.dat", prefix, static_cast<unsigned>(index));
+    const std::string bytes = made(seed * files_ + index, bytes_);
+    std::ofstream file(folder / name, std::ios::binary);
+    file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    file.close();
+    if (!file) throw std::runtime_error("cannot write into " + folder.string());
+  }
+}
+
+void GameInstall::empty(const fs::path& target) const {
+  for (const fs::directory_entry& entry : fs::directory_iterator(target)) {
+    if (entry.path().filename() != "~Vorlund") fs::remove_all(entry.path());
+  }
+}
+
+void GameInstall::prepare_program(Targets targets) const {
+  prepare(game_, targets);
+}
+
+void GameInstall::prepare_reference(Targets targets) const {
+  prepare(reference_, targets);
+}
+
+void GameInstall::prepare(const fs::path& target, Targets targets) const {
+  empty(target);
+  switch (targets) {
+    case Targets::kEmpty:
+      break;
+    case Targets::kDifferent:
+      write_files(target, "file", 2);
+      break;
+    case Targets::kSame:
+      write_files(target, "file", 1);
+      break;
+    case Targets::kOthers:
+      write_files(target, "other", 3);
+      break;
+  }
+  settle(root_);
+}
+
+double GameInstall::run_program() const {
+  const std::unique_ptr<FileSystem> files = make_platform_file_system();
+  GameDirectory game(*files);
+  game.Label16.caption = game_.string();
+  Status status;
+  FrameOrder frames;
+  SharedLabels labels;
+  Environment environment{*files, game, status, frames, labels};
+  GameTable table;
+  table.G2.add_row({"Group", "Set"});
+  const Stopwatch watch;
+  const GameSetSummary summary = install_game_set(environment, table);
+  const double seconds = watch.seconds();
+  if (summary.copied + summary.unchanged != files_) throw std::runtime_error("not every file was installed");
+  return seconds;
+}
+
+double GameInstall::run_reference() const {
+  std::string words[] = {"cp", "-r", set_.string() + "/.", reference_.string()};
+  char* arguments[] = {words[0].data(), words[1].data(), words[2].data(), words[3].data(), nullptr};
+  const Stopwatch watch;
+  pid_t child = 0;
+  int result = -1;
+  if (::posix_spawnp(&child, "cp", nullptr, nullptr, arguments, environ) != 0 ||
+      ::waitpid(child, &result, 0) < 0 || result != 0) {
+    throw std::runtime_error("cp failed");
+  }
+  return watch.seconds();
+}
+
+}  // namespace vorlund::bench
