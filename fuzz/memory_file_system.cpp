@@ -51,6 +51,10 @@ bool MemoryFileSystem::FolderExists(std::string_view path) {
   return found != files_.end() && found->first.starts_with(prefix);
 }
 
+bool MemoryFileSystem::lies_inside(std::string_view folder, std::string_view root) {
+  return FolderExists(folder) && (key_of(folder) + "\\").starts_with(key_of(root) + "\\");
+}
+
 std::vector<FolderEntry> MemoryFileSystem::entries(std::string_view folder) {
   const std::string prefix = key_of(folder) + "\\";
   const auto separators = std::count(prefix.begin(), prefix.end(), '\\');

@@ -60,6 +60,10 @@ class FileSystem {
   /// True when a folder of that name exists. Never fails.
   virtual bool FolderExists(std::string_view path) = 0;
 
+  /// True when the folder, wherever links lead its path, is `root` or lies below it. Never fails: a folder that
+  /// does not exist lies nowhere.
+  virtual bool lies_inside(std::string_view folder, std::string_view root) = 0;
+
   /// Everything directly inside the folder, in no order, without "." and "..". A folder that does not exist
   /// gives an empty list. Names that no path of this program can spell (with a backslash or slash) are left
   /// out.

@@ -23,6 +23,7 @@ class PosixFileSystem final : public FileSystem {
   std::string current_folder() override;
   bool FileExists(std::string_view path) override;
   bool FolderExists(std::string_view path) override;
+  bool lies_inside(std::string_view folder, std::string_view root) override;
   std::vector<FolderEntry> entries(std::string_view folder) override;
   std::string read_file(std::string_view path, std::uint64_t limit) override;
   std::uint64_t file_size(std::string_view path) override;
@@ -50,6 +51,8 @@ class PosixFileSystem final : public FileSystem {
   bool with_spelling(Place& place, Attempt attempt);
 
   bool find(std::string_view path, EntryKind kind, struct stat& status);
+  /// Not open, with errno, where the place is no folder.
+  FileHandle open_folder(Place& place);
   PosixSource open_source(std::string_view path);
   PosixTarget open_target(std::string_view path);
 
@@ -104,6 +107,37 @@ bool PosixFileSystem::FolderExists(std::string_view path) {
   return find(path, EntryKind::kFolder, status) && S_ISDIR(status.st_mode);
 }
 
+FileHandle PosixFileSystem::open_folder(Place& place) {
+  FileHandle handle;
+  with_spelling(place, [&handle](int parent, const char* name) {
+    handle = open_at(parent, name, O_RDONLY | O_DIRECTORY);
+    return handle.is_open();
+  });
+  return handle;
+}
+
+bool same_entry(const struct stat& a, const struct stat& b) {
+  return a.st_dev == b.st_dev && a.st_ino == b.st_ino;
+}
+
+bool PosixFileSystem::lies_inside(std::string_view folder, std::string_view root) {
+  struct stat wanted {};
+  struct stat status {};
+  Place place = place_of(folder, EntryKind::kFolder);
+  FileHandle handle = open_folder(place);
+  if (!handle.is_open() || ::fstat(handle.descriptor(), &status) != 0) return false;
+  if (!find(root, EntryKind::kFolder, wanted)) return false;
+  // Upwards by "..", whatever links led down; the root of the disk is its own parent.
+  while (!same_entry(status, wanted)) {
+    struct stat parent {};
+    handle = open_at(handle.descriptor(), "..", O_RDONLY | O_DIRECTORY);
+    if (!handle.is_open() || ::fstat(handle.descriptor(), &parent) != 0) return false;
+    if (same_entry(status, parent)) return false;
+    status = parent;
+  }
+  return true;
+}
+
 /// Tells files from folders; a link counts as what it leads to.
 bool kind_of(int folder, const dirent& entry, EntryKind& kind) {
   mode_t mode = DTTOIF(entry.d_type);
@@ -118,14 +152,10 @@ bool kind_of(int folder, const dirent& entry, EntryKind& kind) {
 
 std::vector<FolderEntry> PosixFileSystem::entries(std::string_view folder) {
   constexpr std::string_view kAttempted = "list the folder";
-  FileHandle handle;
   Place place = place_of(folder, EntryKind::kFolder);
-  const bool opened = with_spelling(place, [&handle](int parent, const char* name) {
-    handle = open_at(parent, name, O_RDONLY | O_DIRECTORY);
-    return handle.is_open();
-  });
-  if (!opened && (errno == ENOENT || errno == ENOTDIR)) return {};
-  if (!opened) throw_system_error(kAttempted, folder);
+  FileHandle handle = open_folder(place);
+  if (!handle.is_open() && (errno == ENOENT || errno == ENOTDIR)) return {};
+  if (!handle.is_open()) throw_system_error(kAttempted, folder);
 
   const std::unique_ptr<DIR, int (*)(DIR*)> stream(::fdopendir(handle.descriptor()), ::closedir);
   if (!stream) throw_system_error(kAttempted, folder);
@@ -239,13 +269,9 @@ void PosixFileSystem::start_program(std::string_view path, std::string_view fold
   std::string spelled = join_path(program.folder->path(), program.name);
   if (spelled.front() != '/') spelled = join_path(current_folder(), spelled);
 
-  FileHandle start_folder;
   Place place = place_of(folder, EntryKind::kFolder);
-  const bool opened = with_spelling(place, [&start_folder](int parent, const char* name) {
-    start_folder = open_at(parent, name, O_RDONLY | O_DIRECTORY);
-    return start_folder.is_open();
-  });
-  if (!opened) throw_system_error("start a program in", folder);
+  const FileHandle start_folder = open_folder(place);
+  if (!start_folder.is_open()) throw_system_error("start a program in", folder);
   start_detached(command_for(spelled, beginning), start_folder.descriptor(), path);
 }
 

@@ -23,15 +23,39 @@ constexpr std::string_view kLoosePattern =
 /// Files of the game itself that the masks would take.
 constexpr std::array<std::string_view, 4> kSpared = {"DSG.ICO", "EXTRA.SPT", "CHATLINE.TXT", "HOF.DAT"};
 
+/// The folder that the careers row names. Wherever links lead, it must lie in the store and inside the game
+/// folder, and be another than "Savedata", where a save moved home would be a save deleted.
+std::string careers_home(Environment& environment, const std::string& name) {
+  const std::string home = environment.game.path(kCareersStore) + "\\" + name;
+  const auto refuse = [&home](std::string_view why) {
+    throw ActionError("bring the career saves home to", home, std::string(why) + "; no save was moved");
+  };
+  const bool group_itself = name.empty();  // a cleared careers row names the folder of the group
+  const bool named = group_itself || is_plain_name(name);
+  if (!named || !environment.files.FolderExists(home)) refuse("there is no such folder");
+  for (const std::string_view above : {std::string_view(), kGameStore}) {
+    if (!environment.files.lies_inside(home, environment.game.path(above)))
+      refuse("it leads out of the store");
+  }
+  if (environment.files.lies_inside(home, environment.game.path(kSavedata)))
+    refuse("it leads to \"Savedata\"");
+  return home;
+}
+
+/// Two saves that differ in case alone would have to share one place at home. `saves` is sorted by name.
+void refuse_shared_names(Environment& environment, const std::vector<std::string>& saves) {
+  const auto pair = std::adjacent_find(saves.begin(), saves.end(), same_name);
+  if (pair == saves.end()) return;
+  throw ActionError("bring home the career save", environment.game.path(kSavedata) + "\\" + pair[1],
+                    "its name is that of \"" + pair[0] + "\" in another spelling; no save was moved");
+}
+
 std::uint64_t move_careers_home(Environment& environment, const std::string& name, FileList& savedata) {
   savedata.pattern = kCareerPattern;
   savedata.refresh(environment.files);
   if (savedata.names.empty()) return 0;
-  const std::string home = environment.game.path(kCareersStore) + "\\" + name;
-  const bool group_itself = name.empty();  // a cleared careers row names the folder of the group
-  if ((!group_itself && !is_plain_name(name)) || !environment.files.FolderExists(home)) {
-    throw ActionError("bring the career saves home to", home, "there is no such folder; no save was moved");
-  }
+  const std::string home = careers_home(environment, name);
+  refuse_shared_names(environment, savedata.names);
   for (const std::string& save : savedata.names) {
     const std::string source = environment.game.path(kSavedata) + "\\" + save;
     environment.files.copy_file(source, home + "\\" + save, Durability::kFlushed);

@@ -26,6 +26,8 @@ int careers_row(const GameTable& table);
 /// Moves the career saves ("c*.sve" in "Savedata") into the folder that the careers row names, then deletes
 /// from the game directory itself the loose files that sets put there. `savedata` is the listing of
 /// "Savedata"; its pattern is restored. A save is deleted from "Savedata" only when its copy is on the disk.
+/// Before any save is moved it is an error when there are saves but no such folder, when links lead that
+/// folder out of the store, out of the game folder or to "Savedata", or when two saves differ in case alone.
 /// An error ends the action; running it again completes it.
 CleanUpSummary clean_game_directory(Environment& environment, const GameTable& table, FileList& savedata);
 

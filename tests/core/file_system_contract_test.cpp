@@ -353,6 +353,21 @@ TEST_P(FileSystemContract, TheCurrentFolderIsAFolderWithoutASeparatorAtItsEnd) {
   }
 }
 
+TEST_P(FileSystemContract, AFolderLiesInsideItselfAndWhatIsAboveIt) {
+  folder_.make_folder("Outer\\Inner");
+  folder_.make_folder("Outer 2");
+  folder_.write("Outer\\file", "");
+  EXPECT_TRUE(files().lies_inside(folder_.path("OUTER\\inner"), folder_.path("outer")));
+  EXPECT_TRUE(files().lies_inside(folder_.path("Outer\\Inner"), folder_.path()));
+  EXPECT_TRUE(files().lies_inside(folder_.path("Outer"), folder_.path("Outer\\")));
+  EXPECT_FALSE(files().lies_inside(folder_.path("Outer"), folder_.path("Outer\\Inner")));
+  EXPECT_FALSE(files().lies_inside(folder_.path("Outer 2"), folder_.path("Outer")));
+  EXPECT_FALSE(files().lies_inside(folder_.path("Outer\\none"), folder_.path("Outer")));
+  EXPECT_FALSE(files().lies_inside(folder_.path("Outer\\file"), folder_.path("Outer")));
+  EXPECT_FALSE(files().lies_inside(folder_.path("Outer"), folder_.path("none")));
+  EXPECT_FALSE(files().lies_inside("", ""));
+}
+
 TEST_P(FileSystemContract, StartingWhatIsNotThereIsAnError) {
   EXPECT_THROW(files().start_program(folder_.path("eaw.exe"), folder_.path()), ActionError);
   folder_.make_folder("folder");

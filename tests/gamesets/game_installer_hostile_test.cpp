@@ -8,6 +8,7 @@
 
 #include "gamesets/game_installer.h"
 #include "gamesets/game_record.h"
+#include "support/hostile_names.h"
 #include "support/sample_environment.h"
 #include "support/temporary_folder.h"
 
@@ -15,121 +16,6 @@ namespace vorlund {
 namespace {
 
 using namespace std::string_literals;
-
-/// Group and folder names that no honest record holds.
-std::vector<std::string> hostile_names() {
-  std::vector<std::string> names = {"..",
-                                    ".",
-                                    "...",
-                                    "....",
-                                    "..\\..",
-                                    "../..",
-                                    "..\\..\\outside",
-                                    "../../outside",
-                                    "../../../outside",
-                                    "..\\..\\..\\outside",
-                                    "\\outside",
-                                    "/outside",
-                                    "/etc",
-                                    "\\\\server\\share",
-                                    "//server/share",
-                                    "C:",
-                                    "c:\\",
-                                    "C:outside",
-                                    "C:\\outside",
-                                    "c:/outside",
-                                    "\\\\?\\C:\\outside",
-                                    "\\\\.\\C:",
-                                    "\\??\\C:\\outside",
-                                    "One:stream",
-                                    "One::$DATA",
-                                    "One:evil:$DATA",
-                                    ":",
-                                    "::",
-                                    "/",
-                                    "\\",
-                                    "//",
-                                    "\\\\",
-                                    "One/",
-                                    "One\\",
-                                    "/One",
-                                    "\\One",
-                                    "One/..",
-                                    "One\\..",
-                                    "One/../../..",
-                                    "One\\..\\..\\..",
-                                    "./One",
-                                    ".\\One",
-                                    "One/.",
-                                    "One\\.",
-                                    "One//Two",
-                                    "One\\\\Two",
-                                    " ",
-                                    "  ",
-                                    ". ",
-                                    ".. ",
-                                    " ..",
-                                    " . ",
-                                    ". .",
-                                    ".. ..",
-                                    "\t",
-                                    "\n",
-                                    "\r",
-                                    "One\n",
-                                    "\x01",
-                                    "\x1F",
-                                    "\x7F/..",
-                                    "One\0"s,
-                                    "\0"s,
-                                    "\0.."s,
-                                    "..\0"s,
-                                    "../\0"s,
-                                    "One\0/../../outside"s,
-                                    "%2e%2e",
-                                    "%2e%2e/outside",
-                                    "..%2foutside",
-                                    "..%5coutside",
-                                    "~",
-                                    "~/outside",
-                                    "$HOME/outside",
-                                    "%USERPROFILE%\\outside",
-                                    "`outside`",
-                                    "\xC0\xAE\xC0\xAE/outside",
-                                    "..\xC0\xAF..\xC0\xAFoutside",
-                                    "\xEF\xBC\x8E\xEF\xBC\x8E",
-                                    "\xE2\x88\x95outside",
-                                    "\xEF\xBC\x8F..",
-                                    "..\xE2\x81\x84outside",
-                                    "\xFF\xFE",
-                                    "\xED\xA0\x80",
-                                    std::string(300, 'a'),
-                                    std::string(5000, '.'),
-                                    std::string(70'000, 'x'),
-                                    "a/" + std::string(5000, '/') + "b",
-                                    "*",
-                                    "?",
-                                    "*.*",
-                                    "<",
-                                    ">",
-                                    "|",
-                                    "\"",
-                                    "One*",
-                                    "O?e",
-                                    "file:///outside",
-                                    "http://outside",
-                                    "-rf",
-                                    "--",
-                                    "; rm -rf outside",
-                                    "&& outside",
-                                    "$(outside)",
-                                    "{}",
-                                    "outside/../outside"};
-  for (const char* device : {"CON", "PRN", "AUX", "NUL", "COM1", "COM9", "LPT1", "LPT9", "nul.txt", "con ",
-                             "aux.", "CONIN$", "CONOUT$", "COM\xC2\xB9"}) {
-    names.emplace_back(device);
-  }
-  return names;
-}
 
 class HostileRows : public ::testing::Test {
  protected:
@@ -159,7 +45,7 @@ class HostileRows : public ::testing::Test {
 };
 
 TEST_F(HostileRows, AreShownButPassedOver) {
-  const std::vector<std::string> names = hostile_names();
+  const std::vector<std::string> names = test::hostile_names();
   ASSERT_GE(names.size(), 100U);
   const auto before = folder.tree();
   for (const std::string& name : names) {
@@ -175,7 +61,8 @@ TEST_F(HostileRows, AreShownButPassedOver) {
 
 TEST_F(HostileRows, OfARecordAreReadAndInstalledWithoutHarm) {
   std::string record = "Folder group\tFolder name\r\n";
-  for (const std::string& name : hostile_names()) record += "Set\t" + name + "\r\n" + name + "\tSet\r\n";
+  for (const std::string& name : test::hostile_names())
+    record += "Set\t" + name + "\r\n" + name + "\tSet\r\n";
   folder.write("game/~Vorlund/CurrentGameSet.txt", record);
   const auto before = folder.tree();
   GameTable table;

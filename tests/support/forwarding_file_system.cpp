@@ -31,6 +31,11 @@ bool ForwardingFileSystem::FolderExists(std::string_view path) {
   return before({Effect::kQuestion, words("folder exists", path), {}, {}, {}}) && inner_.FolderExists(path);
 }
 
+bool ForwardingFileSystem::lies_inside(std::string_view folder, std::string_view root) {
+  std::string text = words("lies inside", root).append(": ").append(folder);
+  return before({Effect::kQuestion, std::move(text), {}, {}, {}}) && inner_.lies_inside(folder, root);
+}
+
 std::vector<FolderEntry> ForwardingFileSystem::entries(std::string_view folder) {
   before({Effect::kReading, words("list", folder), {}, {}, {}});
   return inner_.entries(folder);
