@@ -18,7 +18,7 @@ class MenuEditor {
 
   explicit MenuEditor(Environment& environment);
 
-  Frame PMenFrame{"PMenFrame", false, {4800, 900, 12600, 8400}};
+  Frame PMenFrame{"PMenFrame", false, {4200, 900, 13500, 7650}};
   Frame MnuFrame{"Select Picplnb, Picplna, or Picplng.mnu to read/edit", true, {300, 300, 6000, 900}};
   std::array<Choice, 3> CountryBut{{{"B", true}, {"A"}, {"G"}}};  ///< British, American, German menu file
   std::array<TextBox, kEntries> bmnutb;                           ///< names of the entries

@@ -4,17 +4,18 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPainter>
 #include <algorithm>
 #include <numeric>
 
+#include "ui/window/entry_delegate.h"
 #include "ui/window/theme.h"
 
 namespace vorlund {
 
 namespace {
 
-constexpr int kHeaderPadding = 20;
-constexpr int kCellPadding = 14;
+constexpr int kPadding = 2 * EntryDelegate::kMargin + 3;  // of headers and cells, with the grid line
 
 }  // namespace
 
@@ -76,6 +77,7 @@ GridView::GridView(const QString& name, const Grid& grid, QWidget* parent)
   setObjectName(name);
   setAccessibleName(name);
   setModel(&model_);
+  setItemDelegate(new EntryDelegate(*this, EntryDelegate::CurrentCell::kFramed));
   setSelectionMode(SingleSelection);
   setSelectionBehavior(SelectRows);
   setEditTriggers(NoEditTriggers);
@@ -114,7 +116,7 @@ void GridView::fit_columns() {
     const std::size_t index = static_cast<std::size_t>(column);
     const int given = index < grid_.column_widths.size() ? theme::pixels(grid_.column_widths[index]) : 0;
     const int header =
-        fontMetrics().horizontalAdvance(QString::fromStdString(grid_.cell(0, column))) + kHeaderPadding;
+        fontMetrics().horizontalAdvance(QString::fromStdString(grid_.cell(0, column))) + kPadding;
     setColumnWidth(column, std::max(given, header));
   }
 }
@@ -128,14 +130,14 @@ void GridView::share_columns() {
 }
 
 int GridView::header_width(int column) const {
-  return fontMetrics().horizontalAdvance(QString::fromStdString(grid_.cell(0, column))) + kHeaderPadding;
+  return fontMetrics().horizontalAdvance(QString::fromStdString(grid_.cell(0, column))) + kPadding;
 }
 
 int GridView::wanted_width(int column) const {
   int width = header_width(column);
   for (int row = 0; row < model_.rowCount(); ++row) {
     const QString text = QString::fromStdString(grid_.cell(model_.grid_row(row), column));
-    width = std::max(width, fontMetrics().horizontalAdvance(text) + kCellPadding);
+    width = std::max(width, fontMetrics().horizontalAdvance(text) + kPadding);
   }
   return width;
 }
@@ -147,14 +149,9 @@ void GridView::share_room() {
   int spare = viewport()->width() - std::accumulate(widths.begin(), widths.end(), 0);
   for (; spare < 0; ++spare) {
     int* longest = nullptr;
-    int most = 0;
     for (int column = 0; column < grid_.columns; ++column) {
       int& width = widths[static_cast<std::size_t>(column)];
-      const int excess = width - header_width(column);
-      if (excess > most) {
-        most = excess;
-        longest = &width;
-      }
+      if (width > header_width(column) && (longest == nullptr || width > *longest)) longest = &width;
     }
     if (longest == nullptr) break;
     --*longest;
@@ -166,6 +163,14 @@ void GridView::share_room() {
     setColumnWidth(column, widths[static_cast<std::size_t>(column)] + share);
   }
   applying_ = false;
+}
+
+void GridView::paintEvent(QPaintEvent* event) {
+  QTableView::paintEvent(event);
+  if (model_.rowCount() > 0 || empty_text_.isEmpty()) return;
+  QPainter painter(viewport());
+  painter.setPen(theme::kQuietText);
+  painter.drawText(viewport()->rect(), Qt::AlignCenter | Qt::TextWordWrap, empty_text_);
 }
 
 void GridView::resizeEvent(QResizeEvent* event) {

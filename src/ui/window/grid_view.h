@@ -58,11 +58,15 @@ class GridView : public QTableView {
   /// give way first. A column that the user sizes ends this.
   void share_columns();
 
+  /// Shown in place of rows while there is none.
+  void set_empty_text(const QString& text) { empty_text_ = text; }
+
  protected:
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
 
  private:
   enum class Sharing { kOff, kOn };
@@ -72,6 +76,7 @@ class GridView : public QTableView {
 
   const Grid& grid_;
   GridModel model_;
+  QString empty_text_;
   bool applying_ = false;
   Sharing sharing_ = Sharing::kOff;
 };

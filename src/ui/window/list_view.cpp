@@ -5,6 +5,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include "ui/window/entry_delegate.h"
 #include "ui/window/theme.h"
 
 namespace vorlund {
@@ -37,6 +38,8 @@ ListView::ListView(const QString& name, const QString& caption, const std::vecto
   setObjectName(name);
   setAccessibleName(caption);
   setModel(&model_);
+  setItemDelegate(new EntryDelegate(*this, EntryDelegate::CurrentCell::kPlain));
+  viewport()->setAttribute(Qt::WA_Hover);
   setSelectionMode(SingleSelection);
   setEditTriggers(NoEditTriggers);
   setUniformItemSizes(true);

@@ -113,7 +113,7 @@ void LoadPaneView::apply() {
   cancel_->apply(pane.Label40);
   frame_->apply(pane.Frame2);
   backdrop_->apply(pane.Image2);
-  backdrop_->setGeometry(frame_->rect().adjusted(1, 1, -1, -1));
+  backdrop_->setGeometry(frame_->body());
   backdrop_->lower();
 }
 

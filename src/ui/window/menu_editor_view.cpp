@@ -73,7 +73,7 @@ void MenuEditorView::add_entries(const Perform& perform) {
   auto* grid = new QGridLayout(board_);
   grid->setContentsMargins(0, 0, 6, 0);
   grid->setHorizontalSpacing(10);
-  grid->setVerticalSpacing(5);
+  grid->setVerticalSpacing(3);
   add_heading(grid, 1, "Name in the menu");
   add_heading(grid, 2, "Length");
   add_heading(grid, 3, "Bytes carried unchanged");
@@ -147,7 +147,7 @@ void MenuEditorView::lay_out() {
 
 void MenuEditorView::apply() {
   const MenuEditor& pane = form_.menu_editor;
-  fit_to_room(form_.menu_editor.PMenFrame, *frame_->parentWidget(), QSize(1080, 640));
+  fit_to_room(form_.menu_editor.PMenFrame, *frame_->parentWidget(), QSize(1080, 540));
   const QString caption = QString::fromStdString(pane.MnuFrame.caption);
   menu_caption_->setText(caption);
   menu_frame_->setAccessibleName(caption);

@@ -13,7 +13,7 @@ namespace vorlund {
 namespace {
 
 // Pixels that the main menu takes at the left, and the title and the status line above and below a pane.
-constexpr int kBesidePane = 300;
+constexpr int kBesidePane = 294;
 constexpr int kAboveAndBelowPane = 110;
 constexpr QSize kLeastPane{600, 380};
 

@@ -24,6 +24,9 @@ class PaneFrame : public QWidget {
   /// Layout that the content goes into.
   QVBoxLayout* content() const { return content_; }
 
+  /// What lies below the title.
+  QRect body() const { return rect().adjusted(1, title_height() + 1, -1, -1); }
+
   /// Takes over caption, visibility and place. A pane never hangs out of its parent at the right or the
   /// bottom with its title out of reach.
   void apply(const Frame& frame);

@@ -65,6 +65,7 @@ void PlanePaneView::connect_table(const Perform& perform) {
                    [press](int column) { press(0, column); });
   table_->grid_model().cycles = [this](int row, int column) { return acts(row, column); };
   table_->share_columns();
+  table_->set_empty_text("No slot is in use yet: \"Show All\" shows all thirty");
 }
 
 void PlanePaneView::connect_lists(const Perform& perform) {

@@ -36,7 +36,7 @@ PossibleSkinsView::PossibleSkinsView(Form1& form, const Perform& perform, QWidge
       f->possible_skins.List4_Click();
     });
   };
-  skins_->set_empty_text("The skin store holds no skin for this slot");
+  skins_->set_empty_text("No skins are listed");
   picture_->on_click = [f, perform] { perform([&] { f->Image4_Click(); }); };
   picture_->setAccessibleName("Picture of the skin; a click chooses it");
   picture_->setCursor(Qt::PointingHandCursor);
@@ -88,7 +88,7 @@ void PossibleSkinsView::lay_out() {
 
 void PossibleSkinsView::apply() {
   const PossibleSkins& pane = form_.possible_skins;
-  fit_to_room(form_.possible_skins.Frame4, *frame_->parentWidget(), QSize(1100, 860));
+  fit_to_room(form_.possible_skins.Frame4, *frame_->parentWidget(), QSize(1320, 1000));
   wanted_->apply(pane.Label38);
   slot_heading_->apply(pane.Label36);
   slot_->apply(pane.Label37);

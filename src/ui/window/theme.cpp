@@ -19,7 +19,7 @@ constexpr auto kStyleSheet = R"(
   QLineEdit { padding: 4px 6px; }
   QTableView { gridline-color: #2a3643; alternate-background-color: #172029; }
   QHeaderView::section { background: #26323f; color: #aebac6; border: none; border-right: 1px solid #455566;
-    padding: 5px 8px; }
+    padding: 5px 7px; }
   QToolTip { background: #26323f; color: #f2f4f6; border: 1px solid #455566; padding: 3px; }
   QProgressBar { background: #121921; border: 1px solid #455566; border-radius: 4px; height: 12px; }
   QProgressBar::chunk { background: #ffc94d; border-radius: 3px; }
