@@ -88,6 +88,7 @@ void Form1::Form_Load() {
   MakeSkinList(environment);
   Label26.caption = "Version " + std::to_string(version_.major) + "." + std::to_string(version_.minor) + "." +
                     std::to_string(version_.revision);
+  environment.status.outcome("Confirm the game folder, then choose from the menu on the left");
 }
 
 void Form1::Label_MouseDown(const MouseEvent& event) {

@@ -62,7 +62,7 @@ void DirectoryView::apply() {
   folders_->setVisible(directory.Dir6.visible);
   const int width = std::min(460, parent_->width() - 320);
   const int height = std::min(360, parent_->height() - 140);
-  panel_->setGeometry(280 + (parent_->width() - 280 - width) / 2, 100, width, height);
+  panel_->setGeometry(parent_->width() - width - 40, 100, width, height);
   panel_->setVisible(directory.Dir6.visible || directory.Label17.visible);
 }
 
