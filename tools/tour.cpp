@@ -2,10 +2,10 @@
 #include "tour.h"
 
 #include <QAbstractItemView>
-#include <QDirIterator>
 #include <QElapsedTimer>
 #include <QProgressBar>
 #include <QTimer>
+#include <algorithm>
 #include <cstdio>
 #include <stdexcept>
 
@@ -46,6 +46,28 @@ class WorkWatch {
 
 }  // namespace
 
+/// A folder of the game store.
+struct Tour::Choice {
+  QString group;
+  QString folder;
+};
+
+/// The folder that holds the most files of a kind; none where no folder holds any.
+Tour::Choice Tour::folder_with_most(const QStringList& groups, const QString& mask) {
+  Choice found;
+  qsizetype most = 0;
+  for (const QString& group : groups) {
+    const QDir folders(QDir::current().filePath("~Vorlund/GameStore/" + group));
+    for (const QString& name : folders.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+      const auto count = QDir(folders.filePath(name)).entryList({mask}, QDir::Files).size();
+      if (count <= most) continue;
+      most = count;
+      found = {group, name};
+    }
+  }
+  return found;
+}
+
 Tour::Tour(MainWindow& window, const QDir& folder, int& next_number)
     : window_(window), hand_(window), folder_(folder), next_number_(next_number) {
   window_.resize(kWindowSize);
@@ -85,40 +107,34 @@ void Tour::game_work() {
     say("  The store has no game sets.");
     return;
   }
-  // Of the groups that stand in the game table the one that holds the largest folder, and the last group,
-  // which may stand in it with several folders.
-  const QDir store(QDir::current().filePath("~Vorlund/GameStore"));
-  QString large_group = groups.last();
-  QString large_folder;
-  uint most = 0;
+  // A row is added for the last group alone; of the others only those serve that stand in the table.
+  QStringList served;
   const Grid& table = window_.form().game.table.G2;
   for (int row = 1; row < table.row_count(); ++row) {
     const QString group = QString::fromStdString(table.cell(row, GameTable::kGroup));
-    if (!groups.contains(group)) continue;
-    const QDir folders(store.filePath(group));
-    for (const QString& name : folders.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
-      const uint files = QDir(folders.filePath(name)).count();
-      if (files <= most) continue;
-      most = files;
-      large_group = group;
-      large_folder = name;
-    }
+    if (groups.contains(group) && !served.contains(group)) served.append(group);
   }
-  if (!large_folder.isEmpty()) choose_game_folder(large_group, large_folder, "set");
-  choose_game_folder(groups.last(), {}, "last-group");
+  const Choice patches = folder_with_most(served, "*.ldr");
+  if (!patches.folder.isEmpty()) {
+    choose_game_folder(patches, "patches");
+    served.removeAll(patches.group);
+  }
+  const Choice large = folder_with_most(served, "*");
+  if (!large.folder.isEmpty()) choose_game_folder(large, "large-set");
+  choose_game_folder({groups.last(), {}}, "last-group");
   click("Label2");
   show("game-table", "\"Show Game Table\": the rows, the last to be installed at the end");
   arrange_rows();
   process_game_set();
 }
 
-void Tour::choose_game_folder(const QString& group, const QString& folder, const QString& picture) {
-  click_captioned("Label1", group);
-  show(picture + "-group", "The group \"" + group + "\" and its folders");
+void Tour::choose_game_folder(const Choice& choice, const QString& picture) {
+  click_captioned("Label1", choice.group);
+  show(picture + "-group", "The group \"" + choice.group + "\" and its folders");
   const QStringList folders = captions("SelLab");
-  const QString chosen = folder.isEmpty() && !folders.isEmpty() ? folders.first() : folder;
+  const QString chosen = choice.folder.isEmpty() && !folders.isEmpty() ? folders.first() : choice.folder;
   if (!click_captioned("SelLab", chosen)) {
-    say("  The group \"" + group + "\" has no folders.");
+    say("  The group \"" + choice.group + "\" has no folders.");
     click("Label10(2)");
     return;
   }
@@ -128,8 +144,7 @@ void Tour::choose_game_folder(const QString& group, const QString& folder, const
 }
 
 void Tour::arrange_rows() {
-  const auto* view = qobject_cast<QAbstractItemView*>(hand_.find("G2"));
-  if (view == nullptr || view->model()->rowCount() < 3) {
+  if (texts("G2", GameTable::kFolder).size() < 3) {
     say("  The game table is too short to arrange anything.");
     return;
   }
@@ -158,38 +173,49 @@ void Tour::aircraft_work() {
     say("  The store has no skins.");
     return;
   }
-  choose_skin();
+  const QString skin = choose_skin();
   click("Label2");
   show("plane-table", "\"Show Plane Table\": slots, skins and flight models");
-  compose_planes();
+  compose_planes(skin);
 }
 
-void Tour::choose_skin() {
+QString Tour::choose_skin() {
   click("Label1(0)");
-  if (captions("SelLab").isEmpty()) {
+  const QStringList skins = captions("SelLab");
+  if (skins.isEmpty()) {
     click("Label10(2)");
-    return;
+    return {};
   }
   click("SelLab(0)");
   show("skin", "A skin: its picture, and what its slot wears now");
   click("Image1");
   show("skin-chosen", "A click on the picture has put it into the plane table");
+  return skins.first();
 }
 
-void Tour::compose_planes() {
-  const auto* models = qobject_cast<QAbstractItemView*>(hand_.find("List2"));
-  if (models == nullptr || models->model()->rowCount() == 0) {
-    say("  The current group of flight models has none.");
+void Tour::compose_planes(const QString& skin) {
+  const QStringList models = texts("List2", 0);
+  const QStringList skins = texts("G1", PlaneTable::kSkinFolder);
+  if (models.isEmpty() || skins.isEmpty()) {
+    say("  There is no flight model, or no slot in use, to compose.");
     return;
   }
-  click_row("G1", 0);
+  // The flight model whose name has the longest beginning in common with the skin's.
+  qsizetype fitting = 0;
+  for (qsizetype length = skin.size(); length > 0 && !models[fitting].startsWith(skin.left(length));
+       --length) {
+    for (qsizetype index = 0; index < models.size(); ++index) {
+      if (models[index].startsWith(skin.left(length))) fitting = index;
+    }
+  }
+  click_row("G1", static_cast<int>(std::max<qsizetype>(skins.indexOf(skin), 0)));
   click("Option1(3)");
-  click_row("List2", 0);
+  click_row("List2", static_cast<int>(fitting));
   show("flight-model", "\"Find FM for selected slot\": the slot has a flight model");
   click("Option1(0)");
-  click_row("List2", 0);
+  click_row("List2", static_cast<int>(fitting));
   show("possible-skins", "\"Match skin to selected FM\": the skins that may fit it");
-  if (!hand_.sees("GameFrame") && !hand_.sees("Frame1")) click("Label2");
+  if (!hand_.sees("Frame1")) click("Label2");
   click("Label8");
   show("aircraft-installed", "The aircraft set is installed");
 }
@@ -236,6 +262,15 @@ QStringList Tour::captions(const QString& array) const {
     if (label == nullptr) return found;
     found.append(text_of(*label));
   }
+}
+
+QStringList Tour::texts(const QString& table, int column) const {
+  QStringList found;
+  const auto* view = qobject_cast<QAbstractItemView*>(hand_.find(table));
+  for (int row = 0; view != nullptr && row < view->model()->rowCount(); ++row) {
+    found.append(view->model()->index(row, column).data().toString());
+  }
+  return found;
 }
 
 }  // namespace vorlund

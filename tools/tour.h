@@ -26,14 +26,17 @@ class Tour {
   void look_again();
 
  private:
+  struct Choice;
+  static Choice folder_with_most(const QStringList& groups, const QString& mask);
+
   void start();
   void game_work();
-  void choose_game_folder(const QString& group, const QString& folder, const QString& picture);
+  void choose_game_folder(const Choice& choice, const QString& picture);
   void arrange_rows();
   void process_game_set();
   void aircraft_work();
-  void choose_skin();
-  void compose_planes();
+  QString choose_skin();
+  void compose_planes(const QString& skin);
   void other_panes();
 
   void click(const QString& name);
@@ -44,6 +47,9 @@ class Tour {
   /// Clicks the element of a control array with that caption; false when there is none.
   bool click_captioned(const QString& array, const QString& caption);
   QStringList captions(const QString& array) const;
+
+  /// The texts of a column of a table or list, those of the shown rows.
+  QStringList texts(const QString& table, int column) const;
 
   MainWindow& window_;
   Hand hand_;
