@@ -1,6 +1,10 @@
 // Makes, fills and removes folders for tests, past the program's own file layer so as not to trust it.
 #include "support/temporary_folder.h"
 
+#ifdef _WIN32
+#include <windows.h>
+#endif
+
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
@@ -14,6 +18,11 @@ namespace {
 
 namespace fs = std::filesystem;
 
+std::string to_text(const fs::path& path) {
+  const std::u8string text = path.u8string();
+  return std::string(text.begin(), text.end());
+}
+
 #ifdef _WIN32
 constexpr char kSeparator = '\\';
 
@@ -24,6 +33,37 @@ fs::path to_path(std::string_view text) {
   std::replace(spelled.begin(), spelled.end(), '/', '\\');
   return fs::path(std::u8string(spelled.begin(), spelled.end()));
 }
+
+/// Paths of all that is in a folder. The library's own listing does not know the long form.
+std::vector<fs::path> paths_in(const fs::path& folder) {
+  std::vector<fs::path> found;
+  WIN32_FIND_DATAW entry;
+  const HANDLE search = FindFirstFileW((folder.native() + L"\\*").c_str(), &entry);
+  if (search == INVALID_HANDLE_VALUE) return found;
+  do {
+    const std::wstring_view name = entry.cFileName;
+    if (name != L"." && name != L"..") found.emplace_back(folder.native() + L"\\" + entry.cFileName);
+  } while (FindNextFileW(search, &entry) != 0);
+  FindClose(search);
+  return found;
+}
+
+bool is_folder(const fs::path& path) {
+  const DWORD attributes = GetFileAttributesW(path.c_str());
+  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+}
+
+void remove_everything(const fs::path& folder) {
+  for (const fs::path& path : paths_in(folder)) {
+    if (is_folder(path)) {
+      remove_everything(path);
+    } else {
+      SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_NORMAL);
+      DeleteFileW(path.c_str());
+    }
+  }
+  RemoveDirectoryW(folder.c_str());
+}
 #else
 constexpr char kSeparator = '/';
 
@@ -32,12 +72,22 @@ fs::path to_path(std::string_view text) {
   std::replace(spelled.begin(), spelled.end(), '\\', '/');
   return fs::path(spelled);
 }
-#endif
 
-std::string to_text(const fs::path& path) {
-  const std::u8string text = path.u8string();
-  return std::string(text.begin(), text.end());
+std::vector<fs::path> paths_in(const fs::path& folder) {
+  std::vector<fs::path> found;
+  for (const fs::directory_entry& entry : fs::directory_iterator(folder)) found.push_back(entry.path());
+  return found;
 }
+
+bool is_folder(const fs::path& path) {
+  return fs::is_directory(fs::symlink_status(path));
+}
+
+void remove_everything(const fs::path& folder) {
+  std::error_code ignored;
+  fs::remove_all(folder, ignored);
+}
+#endif
 
 std::string content_of(const fs::path& path) {
   std::ifstream file(path, std::ios::binary);
@@ -56,34 +106,17 @@ std::string new_folder_path() {
   return parent + kSeparator + name.str();
 }
 
-void remove_everything(const fs::path& folder) {
-  std::error_code ignored;
-  for (const fs::directory_entry& entry : fs::directory_iterator(folder, ignored)) {
-    const fs::file_status status = entry.symlink_status(ignored);
-    if (fs::is_directory(status)) {
-      remove_everything(entry.path());
-      continue;
-    }
-    if (!fs::is_symlink(status)) {
-      fs::permissions(entry.path(), fs::perms::owner_write, fs::perm_options::add, ignored);
-    }
-    fs::remove(entry.path(), ignored);
-  }
-  fs::remove(folder, ignored);
-}
-
 /// Goes by the paths that the disk gives, so that a name which holds a backslash is one name.
 void collect(const fs::path& folder, const std::string& prefix, std::map<std::string, std::string>& files) {
-  for (const fs::directory_entry& entry : fs::directory_iterator(folder)) {
-    const std::string name = prefix + to_text(entry.path().filename());
-    const fs::file_status status = entry.symlink_status();
-    if (fs::is_symlink(status)) {
-      files[name] = "-> " + to_text(fs::read_symlink(entry.path()));
-    } else if (fs::is_directory(status)) {
-      if (fs::is_empty(entry.path())) files[name + "/"] = "";
-      collect(entry.path(), name + "/", files);
+  for (const fs::path& path : paths_in(folder)) {
+    const std::string name = prefix + to_text(path.filename());
+    if (fs::is_symlink(fs::symlink_status(path))) {
+      files[name] = "-> " + to_text(fs::read_symlink(path));
+    } else if (is_folder(path)) {
+      if (paths_in(path).empty()) files[name + "/"] = "";
+      collect(path, name + "/", files);
     } else {
-      files[name] = content_of(entry.path());
+      files[name] = content_of(path);
     }
   }
 }
@@ -136,9 +169,8 @@ bool TemporaryFolder::has(std::string_view name) const {
 
 std::vector<std::string> TemporaryFolder::names(std::string_view folder) const {
   std::vector<std::string> found;
-  for (const fs::directory_entry& entry :
-       fs::directory_iterator(to_path(folder.empty() ? path_ : path(folder)))) {
-    found.push_back(to_text(entry.path().filename()));
+  for (const fs::path& entry : paths_in(to_path(folder.empty() ? path_ : path(folder)))) {
+    found.push_back(to_text(entry.filename()));
   }
   std::sort(found.begin(), found.end());
   return found;

@@ -1,0 +1,46 @@
+// Open files of Windows: their handles, whole reads and writes, and the system's error texts.
+#pragma once
+
+#include <windows.h>
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace vorlund {
+
+/// A file handle that is closed with its owner.
+class WindowsHandle {
+ public:
+  WindowsHandle() = default;
+  explicit WindowsHandle(HANDLE handle) : handle_(handle) {}
+  ~WindowsHandle() { close(); }
+  WindowsHandle(WindowsHandle&& other) noexcept : handle_(other.release()) {}
+  WindowsHandle& operator=(WindowsHandle&& other) noexcept;
+
+  HANDLE get() const { return handle_; }
+  bool is_open() const { return handle_ != INVALID_HANDLE_VALUE; }
+
+  /// Closes the file; false, with the system's error, on failure.
+  bool close();
+
+ private:
+  HANDLE release();
+
+  HANDLE handle_ = INVALID_HANDLE_VALUE;
+};
+
+/// Throws ActionError with the system's own text for an error (by default the last one).
+[[noreturn]] void throw_windows_error(std::string_view attempted, std::string_view path);
+[[noreturn]] void throw_windows_error(std::string_view attempted, std::string_view path, DWORD error);
+
+/// Opens an existing file so that others may go on using it. Not open, with the system's error, on failure.
+WindowsHandle open_existing(const std::wstring& path, DWORD access, DWORD flags);
+
+/// Reads up to `size` bytes, fewer only at the end of the file; false, with the system's error, on failure.
+bool read_up_to(HANDLE file, char* bytes, std::size_t size, std::size_t& done);
+
+/// Writes all the bytes; false, with the system's error, on failure.
+bool write_all(HANDLE file, std::string_view bytes);
+
+}  // namespace vorlund
