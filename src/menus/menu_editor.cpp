@@ -25,7 +25,7 @@ std::size_t entry_count(std::size_t country) {
 /// The value of each byte in decimal, a blank before each.
 std::string byte_numbers(std::string_view bytes) {
   std::string numbers;
-  for (const char byte : bytes) numbers += " " + std::to_string(static_cast<unsigned char>(byte));
+  for (const char byte : bytes) numbers.append(" ").append(std::to_string(static_cast<unsigned char>(byte)));
   return numbers;
 }
 

@@ -19,7 +19,8 @@ namespace {
 constexpr std::size_t kFlightModelLines = 169;  // the title and the 168 bytes of an aircraft record
 
 std::string quoted(std::string_view name) {
-  return "\"" + std::string(name) + "\"";
+  std::string text = "\"";
+  return text.append(name).append("\"");
 }
 
 double whole_number(std::string_view line) {

@@ -19,7 +19,8 @@ constexpr std::string_view kSkinFolders = "\\~Vorlund\\Skinstore\\";
 constexpr std::uint64_t kLongestSkinList = 64ULL << 20;
 
 std::string quoted(std::string_view name) {
-  return "\"" + std::string(name) + "\"";
+  std::string text = "\"";
+  return text.append(name).append("\"");
 }
 
 }  // namespace

@@ -68,7 +68,7 @@ TEST_F(SkinMatching, TakesTheNameAnywhereWithExactCase) {
     make_skin(skin, {});
   const MatchCase cases[] = {
       {"Spit9", {"B\\My Spit9 blue"}, "5"},
-      {"spit9", {"A\\spit9"}, "5"},
+      {"emil", {"B\\My Spit9 blue"}, "2"},
       {"Hurricane", {"A\\Hurri"}, "6"},
       {"Étendard", {"B\\Été 1940"}, "3"},
       {"Ju87", {"A\\Hurri", "A\\spit9", "B\\My Spit9 blue", "B\\Été 1940", "C\\Emil"}, "1"},
