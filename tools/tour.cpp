@@ -140,6 +140,7 @@ void Tour::choose_game_folder(const Choice& choice, const QString& picture) {
   }
   show(picture, "The folder \"" + chosen + "\": its picture and description");
   click("Image1");
+  chosen_.append(chosen);
   show(picture + "-chosen", "A click on the picture has chosen it");
 }
 
@@ -151,9 +152,13 @@ void Tour::arrange_rows() {
   click_row("G2", 0);
   click("Label29");
   show("row-moved", "The first row was moved to the end, to load last");
-  click_row("G2", 1);
+  const QStringList folders = texts("G2", GameTable::kFolder);
+  const auto spare = std::find_if(folders.begin(), folders.end(),
+                                  [this](const QString& folder) { return !chosen_.contains(folder); });
+  if (spare == folders.end()) return;
+  click_row("G2", static_cast<int>(spare - folders.begin()));
   click("Label28");
-  show("row-cleared", "The second row was cleared");
+  show("row-cleared", "The row of \"" + *spare + "\" was cleared");
 }
 
 void Tour::process_game_set() {

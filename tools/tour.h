@@ -55,6 +55,7 @@ class Tour {
   Hand hand_;
   QDir folder_;
   int& next_number_;
+  QStringList chosen_;  ///< game folders chosen so far
 };
 
 }  // namespace vorlund
