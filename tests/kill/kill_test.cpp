@@ -1,8 +1,10 @@
-// The program is killed at its system calls during an installation: no file may be left half written.
+// The program is killed at its system calls during an action: no file may be left half written, and no career
+// save may be lost.
 #include <gtest/gtest.h>
 
 #include <iostream>
 
+#include "kill/careers_under_fire.h"
 #include "kill/game_under_fire.h"
 #include "kill/traced_program.h"
 
@@ -23,7 +25,9 @@ std::string difference(const Tree& expected, const Tree& found) {
   return report;
 }
 
-class KilledInstall : public testing::Test {
+/// An action, and the folder that it is killed in.
+template <class Folder>
+class KilledAction : public testing::Test {
  protected:
   void SetUp() override {
     if (!TracedProgram::can_trace()) {
@@ -31,10 +35,9 @@ class KilledInstall : public testing::Test {
     }
   }
 
-  std::string trace_file() const { return traces_.path() + "/trace"; }
-
-  /// Kills the installation at each of its calls, checks what is left, and then installs again.
-  void kill_at_each_call(const TracedProgram& program) const {
+  /// Kills the action at each of its calls, checks what is left, and then does it again.
+  void kill_at_each_call(const std::string& program_file, const std::string& action) const {
+    const TracedProgram program({program_file, action}, traces_.path() + "/trace");
     const Trace trace = undisturbed(program);
     ASSERT_FALSE(trace.during.empty());
     int kills = 0;
@@ -44,41 +47,41 @@ class KilledInstall : public testing::Test {
       for (int number = 1; number <= count; ++number) {
         SCOPED_TRACE(call + " number " + std::to_string(number) + " of " + std::to_string(count));
         kill_at(program, call, number, offset);
-        if (HasFailure()) return;
+        if (testing::Test::HasFailure()) return;
         ++kills;
       }
     }
     std::cout << "killed " << kills << " times, at each call of " << trace.during.size() << " names\n";
-    RecordProperty("kills", kills);
+    testing::Test::RecordProperty("kills", kills);
   }
 
  private:
-  /// Runs the installation to its end under strace and checks what it leaves.
+  /// Runs the action to its end under strace and checks what it leaves.
   Trace undisturbed(const TracedProgram& program) const {
     const TemporaryFolder folder;
-    game_.lay_out(folder);
+    game_folder_.lay_out(folder);
     Trace trace;
     const Ending ending = program.run_traced(folder.path(), trace);
     EXPECT_EQ(ending.exit_code, 0);
     EXPECT_TRUE(trace.begun && trace.ended);
-    EXPECT_EQ(difference(game_.installed(), folder.tree()), "");
+    EXPECT_EQ(difference(game_folder_.finished(), folder.tree()), "");
     return trace;
   }
 
-  /// `offset` is how many calls of that name come before the installation. A window may make a few more or
+  /// `offset` is how many calls of that name come before the action. A window may make a few more or
   /// fewer of them from run to run: then it is corrected and the kill repeated.
   void kill_at(const TracedProgram& program, const std::string& call, int number, int& offset) const {
     constexpr int kAttempts = 20;
     for (int attempt = 0; attempt < kAttempts; ++attempt) {
       const TemporaryFolder folder;
-      game_.lay_out(folder);
+      game_folder_.lay_out(folder);
       Trace trace;
       const Ending ending = program.run_killed(folder.path(), call, number + offset, trace);
-      ASSERT_EQ(game_.damage(folder.tree()), "");
+      ASSERT_EQ(game_folder_.damage(folder.tree()), "");
       const int met = trace.begun ? trace.during[call] : 0;
       if (ending.killed && !trace.ended && met == number) {
         ASSERT_EQ(program.run(folder.path()).exit_code, 0);
-        ASSERT_EQ(difference(game_.installed(), folder.tree()), "");
+        ASSERT_EQ(difference(game_folder_.finished(), folder.tree()), "");
         return;
       }
       offset += !trace.begun ? 1 : trace.ended || !ending.killed ? -1 : number - met;
@@ -87,17 +90,28 @@ class KilledInstall : public testing::Test {
   }
 
   TemporaryFolder traces_;
-  GameUnderFire game_;
+  Folder game_folder_;
 };
 
+using KilledInstall = KilledAction<GameUnderFire>;
+using KilledCleanUp = KilledAction<CareersUnderFire>;
+
 TEST_F(KilledInstall, LeavesWholeFilesAndIsMadeGoodByTheNextRun) {
-  kill_at_each_call(TracedProgram(HEADLESS_INSTALL, trace_file()));
+  kill_at_each_call(HEADLESS_ACTION, "install");
 }
 
-#ifdef WINDOW_INSTALL
+TEST_F(KilledCleanUp, LosesNoCareerSaveAndIsCompletedByTheNextRun) {
+  kill_at_each_call(HEADLESS_ACTION, "clean-up");
+}
+
+#ifdef WINDOW_ACTION
 
 TEST_F(KilledInstall, OfTheRealWindowLeavesWholeFilesAndIsMadeGoodByTheNextRun) {
-  kill_at_each_call(TracedProgram(WINDOW_INSTALL, trace_file()));
+  kill_at_each_call(WINDOW_ACTION, "install");
+}
+
+TEST_F(KilledCleanUp, OfTheRealWindowLosesNoCareerSaveAndIsCompletedByTheNextRun) {
+  kill_at_each_call(WINDOW_ACTION, "clean-up");
 }
 
 #endif

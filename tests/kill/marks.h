@@ -1,4 +1,4 @@
-// Calls that show in a trace where an installation begins and ends.
+// Calls that show in a trace where an action begins and ends.
 #pragma once
 
 #include <unistd.h>
@@ -6,8 +6,8 @@
 namespace vorlund::test {
 
 // Names of files that are not there: asking for one changes nothing.
-inline constexpr char kInstallBegins[] = "the-install-begins";
-inline constexpr char kInstallHasEnded[] = "the-install-has-ended";
+inline constexpr char kActionBegins[] = "the-action-begins";
+inline constexpr char kActionHasEnded[] = "the-action-has-ended";
 
 inline void mark(const char* name) {
   static_cast<void>(::access(name, F_OK));

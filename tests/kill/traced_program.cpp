@@ -58,9 +58,9 @@ Trace read_trace(const std::string& path) {
     if (thread != first_thread) continue;
     const std::string name = call_name(line);
     if (name.empty()) continue;
-    if (line.find(kInstallHasEnded) != std::string::npos) trace.ended = true;
+    if (line.find(kActionHasEnded) != std::string::npos) trace.ended = true;
     if (!trace.ended) ++(trace.begun ? trace.during : trace.before)[name];
-    if (line.find(kInstallBegins) != std::string::npos) trace.begun = true;
+    if (line.find(kActionBegins) != std::string::npos) trace.begun = true;
   }
   return trace;
 }
@@ -72,7 +72,7 @@ bool TracedProgram::can_trace() {
 }
 
 Ending TracedProgram::run(const std::string& folder) const {
-  return run_command({program_}, folder);
+  return run_command(command_, folder);
 }
 
 Ending TracedProgram::run_traced(const std::string& folder, Trace& trace) const {
@@ -92,7 +92,7 @@ Ending TracedProgram::run_under_strace(const std::string& folder, const std::vec
                                        Trace& trace) const {
   std::vector<std::string> command = {"strace", "-f", "-qq", "-o", trace_file_};
   command.insert(command.end(), options.begin(), options.end());
-  command.push_back(program_);
+  command.insert(command.end(), command_.begin(), command_.end());
   const Ending ending = run_command(command, folder);
   trace = read_trace(trace_file_);
   return ending;

@@ -15,18 +15,18 @@ struct Ending {
 
 /// The calls that the first thread of a program made to files and descriptors.
 struct Trace {
-  bool begun = false;                 ///< the installation was reached
+  bool begun = false;                 ///< the action was reached
   bool ended = false;                 ///< and run to its end
-  std::map<std::string, int> before;  ///< calls of each name before the installation
+  std::map<std::string, int> before;  ///< calls of each name before the action
   std::map<std::string, int> during;  ///< calls of each name in it
 };
 
 /// A program that is run inside a folder, off-screen where it has a window.
 class TracedProgram {
  public:
-  /// `trace_file` is written by the runs under strace.
-  TracedProgram(std::string program, std::string trace_file)
-      : program_(std::move(program)), trace_file_(std::move(trace_file)) {}
+  /// `command` is the program and its arguments; `trace_file` is written by the runs under strace.
+  TracedProgram(std::vector<std::string> command, std::string trace_file)
+      : command_(std::move(command)), trace_file_(std::move(trace_file)) {}
 
   /// True where strace is installed and may watch other programs.
   static bool can_trace();
@@ -44,7 +44,7 @@ class TracedProgram {
   Ending run_under_strace(const std::string& folder, const std::vector<std::string>& options,
                           Trace& trace) const;
 
-  std::string program_;
+  std::vector<std::string> command_;
   std::string trace_file_;
 };
 

@@ -1,0 +1,82 @@
+// Tells whole files from halves, and what may be there from what may not.
+#include "kill/folder_under_fire.h"
+
+#include <string_view>
+
+#include "core/file_system.h"
+
+namespace vorlund::test {
+
+namespace {
+
+std::string lower(std::string name) {
+  for (char& character : name) {
+    if (character >= 'A' && character <= 'Z') character = static_cast<char>(character - 'A' + 'a');
+  }
+  return name;
+}
+
+bool is_neighbour(const std::string& name) {
+  return name.substr(name.find_last_of('/') + 1) == neighbour_name("any");
+}
+
+}  // namespace
+
+std::string made_bytes(std::uint32_t seed, std::size_t size) {
+  std::string bytes(size, '\0');
+  std::uint32_t state = seed * 2654435761U + 1;
+  for (char& byte : bytes) {
+    state = state * 1664525U + 1013904223U;
+    byte = static_cast<char>(state >> 24);
+  }
+  return bytes;
+}
+
+void FolderUnderFire::stay(const std::string& name, const std::string& content) {
+  stand(name, content);
+  appear(name, content);
+}
+
+void FolderUnderFire::stand(const std::string& name, const std::string& content) {
+  before_[name] = content;
+  pass(name, content);
+}
+
+void FolderUnderFire::appear(const std::string& name, const std::string& content) {
+  finished_[name] = content;
+  pass(name, content);
+}
+
+void FolderUnderFire::pass(const std::string& name, const std::string& content) {
+  steps_[lower(name)].insert(content);
+}
+
+void FolderUnderFire::go(const std::string& name, const std::string& content) {
+  stand(name, content);
+  may_go_.insert(lower(name));
+}
+
+void FolderUnderFire::lay_out(const TemporaryFolder& folder) const {
+  for (const auto& [name, content] : before_) folder.write(name, content);
+}
+
+std::string FolderUnderFire::damage(const Tree& found) const {
+  std::string report;
+  std::map<std::string, int> spellings;
+  for (const auto& [name, content] : found) {
+    if (is_neighbour(name) || name.ends_with('/')) continue;
+    const auto steps = steps_.find(lower(name));
+    if (steps == steps_.end()) {
+      report += name + " is new; ";
+    } else if (!steps->second.contains(content)) {
+      report += name + " holds " + std::to_string(content.size()) + " bytes, neither the old nor the new; ";
+    }
+    if (++spellings[lower(name)] > 1) report += name + " is there under two spellings; ";
+  }
+  for (const auto& [name, content] : before_) {
+    if (!spellings.contains(lower(name)) && !may_go_.contains(lower(name))) report += name + " is gone; ";
+  }
+  return report;
+}
+
+}  // namespace vorlund::test

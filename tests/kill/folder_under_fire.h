@@ -1,0 +1,53 @@
+// A game folder in which an action of the program is killed, and what may then be found in it.
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <set>
+#include <string>
+
+#include "support/temporary_folder.h"
+
+namespace vorlund::test {
+
+/// Relative names with "/" between folders, and contents.
+using Tree = std::map<std::string, std::string>;
+
+/// Bytes without a pattern, others for each seed.
+std::string made_bytes(std::uint32_t seed, std::size_t size);
+
+/// A game folder before, during and after an action.
+class FolderUnderFire {
+ public:
+  virtual ~FolderUnderFire() = default;
+
+  /// Lays the game folder out as it is before the action.
+  void lay_out(const TemporaryFolder& folder) const;
+
+  /// What the folder holds after the action.
+  const Tree& finished() const { return finished_; }
+
+  /// What is wrong with a folder in which the action was cut off, "" when nothing is: each file must be
+  /// wholly as before, as after, or as between two steps, under one spelling; nothing else may be there but
+  /// the neighbour of a file that was being written, and only what the action deletes may be gone.
+  virtual std::string damage(const Tree& found) const;
+
+ protected:
+  /// The file is there before and after.
+  void stay(const std::string& name, const std::string& content);
+  /// The file is there before; `appear` says what is there afterwards.
+  void stand(const std::string& name, const std::string& content);
+  void appear(const std::string& name, const std::string& content);
+  /// The file may hold this between two steps.
+  void pass(const std::string& name, const std::string& content);
+  /// The file is there before and deleted by the action.
+  void go(const std::string& name, const std::string& content);
+
+ private:
+  Tree before_;
+  Tree finished_;
+  std::map<std::string, std::set<std::string>> steps_;  ///< contents a file may have, by its lower-case name
+  std::set<std::string> may_go_;
+};
+
+}  // namespace vorlund::test
