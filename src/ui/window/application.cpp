@@ -29,6 +29,7 @@ void report_error(const QString& text) {
 int run_application(int argc, char** argv, const std::function<void(MainWindow&)>& driver) {
   QApplication application(argc, argv);
   QApplication::setApplicationName("Vorlund");
+  QApplication::setDesktopFileName("org.vorlund.Vorlund");
   theme::apply_to(application);
   const std::unique_ptr<FileSystem> files = make_platform_file_system();
   MainWindow window(*files, report_error);
