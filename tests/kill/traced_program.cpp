@@ -76,26 +76,31 @@ Ending TracedProgram::run(const std::string& folder) const {
 }
 
 Ending TracedProgram::run_traced(const std::string& folder, Trace& trace) const {
-  return run_under_strace(folder, {"-e", "trace=%file,%desc"}, trace);
+  const Ending ending = run_under_strace(folder, {"-e", "trace=%file,%desc"});
+  trace = read_trace(trace_file_);
+  return ending;
+}
+
+Ending TracedProgram::run_watched(const std::string& folder) const {
+  return run_under_strace(folder, {"-y", "-s", "65536", "-e", "trace=%file,%network,fchmod,fchown"});
 }
 
 Ending TracedProgram::run_killed(const std::string& folder, const std::string& call, int number,
                                  Trace& trace) const {
   // The marks are watched as well; which of the two calls makes them depends on the processor.
-  return run_under_strace(folder,
-                          {"-e", "trace=?access,?faccessat," + call, "-e",
-                           "inject=" + call + ":signal=KILL:when=" + std::to_string(number)},
-                          trace);
+  const Ending ending =
+      run_under_strace(folder, {"-e", "trace=?access,?faccessat," + call, "-e",
+                                "inject=" + call + ":signal=KILL:when=" + std::to_string(number)});
+  trace = read_trace(trace_file_);
+  return ending;
 }
 
-Ending TracedProgram::run_under_strace(const std::string& folder, const std::vector<std::string>& options,
-                                       Trace& trace) const {
+Ending TracedProgram::run_under_strace(const std::string& folder,
+                                       const std::vector<std::string>& options) const {
   std::vector<std::string> command = {"strace", "-f", "-qq", "-o", trace_file_};
   command.insert(command.end(), options.begin(), options.end());
   command.insert(command.end(), command_.begin(), command_.end());
-  const Ending ending = run_command(command, folder);
-  trace = read_trace(trace_file_);
-  return ending;
+  return run_command(command, folder);
 }
 
 }  // namespace vorlund::test

@@ -36,13 +36,16 @@ class TracedProgram {
   /// Runs the program to its end and tells the calls it made.
   Ending run_traced(const std::string& folder, Trace& trace) const;
 
+  /// Runs the program to its end and leaves in the trace file every call of all its threads that goes by the
+  /// name of a file or to a network, descriptors with their paths, texts whole.
+  Ending run_watched(const std::string& folder) const;
+
   /// Kills the program as it enters its call number `number` (from 1) of that name; the call is not made.
   /// The trace tells only of calls of that name.
   Ending run_killed(const std::string& folder, const std::string& call, int number, Trace& trace) const;
 
  private:
-  Ending run_under_strace(const std::string& folder, const std::vector<std::string>& options,
-                          Trace& trace) const;
+  Ending run_under_strace(const std::string& folder, const std::vector<std::string>& options) const;
 
   std::vector<std::string> command_;
   std::string trace_file_;

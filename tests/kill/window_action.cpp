@@ -1,5 +1,5 @@
-// Does one action in the current folder by clicks on the real window: "install", of the recorded game set, or
-// "clean-up".
+// Acts in the current folder by clicks on the real window: "install", of the recorded game set, "clean-up",
+// or "everything": every action of the program that touches files.
 #include <cstdio>
 #include <exception>
 #include <string_view>
@@ -11,8 +11,28 @@
 
 namespace {
 
+/// Installs both sets, saves one, loads both kinds, deletes missions and cleans up. Pictures, descriptions
+/// and names are read on the way.
+void do_everything(vorlund::Hand& hand) {
+  for (const char* name :
+       {"Label17", "Label9(1)", "Label1(0)", "SelLab(0)", "Image1", "Label9(2)", "Label1(0)", "Label9(0)",
+        "Label1(0)", "SelLab(0)", "Image1", "Label2", "Option1(0)"}) {
+    hand.click(name);
+  }
+  hand.click_row("List2", 0);
+  for (const char* name : {"Label33", "PictureMenus"}) hand.click(name);
+  for (const char* name : {"PMenFrame", "WhatsLoaded", "GameLoad", "Label8", "WhatsLoaded", "Label11"}) {
+    hand.click(name);
+  }
+  hand.click_row("File5", 0);
+  for (const char* name : {"Label4", "Label9(3)"}) hand.click(name);
+  for (const char* list : {"File2", "File3"}) hand.click_row(list, 0);
+  for (const char* name : {"Label19", "DelMSN", "Label5", "ExitButton"}) hand.click(name);
+}
+
 void click(vorlund::MainWindow& window, std::string_view action) {
   vorlund::Hand hand(window);
+  if (action == "everything") return do_everything(hand);
   if (action == "install") hand.click("WhatsLoaded");
   vorlund::test::mark(vorlund::test::kActionBegins);
   hand.click(action == "install" ? "GameLoad" : "Label5");
@@ -24,7 +44,7 @@ void click(vorlund::MainWindow& window, std::string_view action) {
 
 int main(int argc, char** argv) {
   const std::string_view action = argc == 2 ? argv[1] : "";
-  if (action != "install" && action != "clean-up") return 2;
+  if (action != "install" && action != "clean-up" && action != "everything") return 2;
   try {
     return vorlund::run_application(argc, argv,
                                     [action](vorlund::MainWindow& window) { click(window, action); });
