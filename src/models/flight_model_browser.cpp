@@ -16,6 +16,9 @@ namespace vorlund {
 
 namespace {
 
+constexpr std::string_view kNoSlot = "Nothing was changed: first select a slot in the plane table";
+constexpr std::string_view kFolderAlone = "; only the script folder was set";
+
 constexpr std::size_t kFlightModelLines = 169;  // the title and the 168 bytes of an aircraft record
 
 std::string quoted(std::string_view name) {
@@ -82,14 +85,19 @@ void FlightModelBrowser::Option1_Click(int index) {
 }
 
 void FlightModelBrowser::List2_Click() {
-  const ListBox& list = lists_.List2;
-  if (list.selected < 0 || static_cast<std::size_t>(list.selected) >= list.items.size()) return;
-  const std::string flight_model = list.items[static_cast<std::size_t>(list.selected)];
+  const std::string flight_model = selected_flight_model();
+  if (flight_model.empty()) return;
   if (plane_.is_set(PlaneOption::kMatchSkin)) {
     match_skins(flight_model);
   } else if (plane_.is_set(PlaneOption::kEditMode) || plane_.is_set(PlaneOption::kFindFlightModel)) {
-    put_into_row(flight_model);
+    environment_.status.outcome(put_into_row(flight_model));
   }
+}
+
+std::string FlightModelBrowser::selected_flight_model() const {
+  const ListBox& list = lists_.List2;
+  const bool any = list.selected >= 0 && static_cast<std::size_t>(list.selected) < list.items.size();
+  return any ? list.items[static_cast<std::size_t>(list.selected)] : "";
 }
 
 void FlightModelBrowser::List3_Click() {
@@ -97,7 +105,7 @@ void FlightModelBrowser::List3_Click() {
   if (index < 0 || static_cast<std::size_t>(index) >= lists_.List3.items.size()) return;
   PlaneTable& table = plane_.table;
   if (table.G1.row == 0) {
-    environment_.status.outcome("Nothing was changed: first select a slot in the plane table");
+    environment_.status.outcome(kNoSlot);
     return;
   }
   table.G1.set_cell(table.G1.row, PlaneTable::kRecordNumber, std::to_string(index));
@@ -105,10 +113,12 @@ void FlightModelBrowser::List3_Click() {
 
 void FlightModelBrowser::apply_matched_skin() {
   if (possible_skins_.Label35.caption.empty()) return;
-  plane_.select_option(PlaneOption::kFindFlightModel);
-  List2_Click();
+  Option1_Click(static_cast<int>(PlaneOption::kFindFlightModel));
+  if (const std::string flight_model = selected_flight_model(); !flight_model.empty()) {
+    environment_.status.outcome(possible_skins_.last_choice() + "\n" + put_into_row(flight_model));
+  }
   plane_.show_in_front();
-  plane_.select_option(PlaneOption::kMatchSkin);
+  Option1_Click(static_cast<int>(PlaneOption::kMatchSkin));
 }
 
 std::vector<FlightModelBrowser::SkinLabel> FlightModelBrowser::open_every_group() {
@@ -171,40 +181,32 @@ void FlightModelBrowser::match_skins(const std::string& flight_model) {
   possible_skins_.open();
 }
 
-void FlightModelBrowser::put_into_row(const std::string& flight_model) {
+std::string FlightModelBrowser::put_into_row(const std::string& flight_model) {
   PlaneTable& table = plane_.table;
   const int row = table.G1.row;
-  if (row == 0) {
-    environment_.status.outcome("Nothing was changed: first select a slot in the plane table");
-    return;
-  }
+  if (row == 0) return std::string(kNoSlot);
   table.G1.set_cell(row, PlaneTable::kScriptFolder, flight_model);
   const std::string folder = flight_model_folder(environment_, table, row);
   if (folder.empty() || !environment_.files.FolderExists(folder)) {
-    environment_.status.outcome("The flight-model group " + quoted(table.flight_model_group()) +
-                                " has no folder " + quoted(flight_model) +
-                                "; only the script folder was set");
-    return;
+    return "The flight-model group " + quoted(table.flight_model_group()) + " has no folder " +
+           quoted(flight_model).append(kFolderAlone);
   }
   const std::vector<std::string> models = list_files(environment_.files, folder, "*.oaw");
-  if (models.empty()) {
-    environment_.status.outcome(quoted(flight_model) +
-                                " holds no \".oaw\" file; only the script folder was set");
-    return;
-  }
-  describe(row, environment_.files.read_file(folder + "\\" + models.front(), ValueFile::kLongest),
-           models.front());
-}
-
-void FlightModelBrowser::describe(int row, std::string_view oaw, const std::string& name) {
-  Grid& table = plane_.table.G1;
+  if (models.empty()) return quoted(flight_model).append(" holds no \".oaw\" file").append(kFolderAlone);
+  const std::string oaw = environment_.files.read_file(folder + "\\" + models.front(), ValueFile::kLongest);
   const std::vector<std::string_view> lines = split_lines(oaw);
   if (lines.size() < kFlightModelLines) {
-    environment_.status.outcome(quoted(name) + " has " + std::to_string(lines.size()) + " lines where " +
-                                std::to_string(kFlightModelLines) +
-                                " are needed; only the script folder was set");
-    return;
+    return quoted(models.front())
+        .append(" has " + std::to_string(lines.size()) + " lines where " + std::to_string(kFlightModelLines))
+        .append(" are needed")
+        .append(kFolderAlone);
   }
+  describe(row, lines);
+  return "Slot " + table.G1.cell(row, PlaneTable::kSlot) + " now flies " + quoted(flight_model);
+}
+
+void FlightModelBrowser::describe(int row, const std::vector<std::string_view>& lines) {
+  Grid& table = plane_.table.G1;
   table.set_cell(row, PlaneTable::kPlaneName, title_cell(lines[0]));
   if (table.cell(row, PlaneTable::kRecordNumber).empty()) {
     table.set_cell(row, PlaneTable::kRecordNumber, number_text(whole_number(lines[1])));
@@ -214,8 +216,6 @@ void FlightModelBrowser::describe(int row, std::string_view oaw, const std::stri
   table.set_cell(row, PlaneTable::kFlyable, std::fmod(flags, 8) > 3 ? "Yes" : "No");
   table.set_cell(row, PlaneTable::kRole, role_of(flags));
   table.set_cell(row, PlaneTable::kFuel, "100");
-  environment_.status.outcome("Slot " + table.cell(row, PlaneTable::kSlot) + " now flies " +
-                              quoted(table.cell(row, PlaneTable::kScriptFolder)));
 }
 
 }  // namespace vorlund

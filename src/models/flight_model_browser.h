@@ -52,8 +52,11 @@ class FlightModelBrowser {
 
   void match_skins(const std::string& flight_model);
   std::vector<SkinLabel> open_every_group();
-  void put_into_row(const std::string& flight_model);
-  void describe(int row, std::string_view oaw, const std::string& name);
+
+  /// Returns what it came to, in plain words.
+  std::string put_into_row(const std::string& flight_model);
+  void describe(int row, const std::vector<std::string_view>& lines);
+  std::string selected_flight_model() const;
 
   Environment& environment_;
   PlanePane& plane_;

@@ -117,7 +117,8 @@ void PossibleSkins::Image4_Click() {
     table.g1update();
     table.select(row, table.G1.column);
   }
-  environment_.status.outcome(describe_choice(row, asked_slot));
+  last_choice_ = describe_choice(row, asked_slot);
+  environment_.status.outcome(last_choice_);
   plane_.show_in_front();
 }
 

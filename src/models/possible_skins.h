@@ -29,8 +29,7 @@ class PossibleSkins {
   Label Label35;  ///< length of the last match of a flight model; "" until one was made
   Label Label33{
       "Single click in the list to view a picture (if any). Click the picture to select the skin listed. "
-      "Click "
-      "in this area to hide the pane"};
+      "Click in this area to hide the pane"};
   Picture Image4;  ///< picture of the viewed skin; a click chooses the skin
 
   /// Lists the skins made for the current row of the plane table and shows the first. A slot code in lower
@@ -43,6 +42,9 @@ class PossibleSkins {
   /// Puts the viewed skin into the row of the plane that its files are made for, whatever row was clicked,
   /// and makes that row the current one. `FlightModelBrowser::apply_matched_skin` does the rest of the click.
   void Image4_Click();
+
+  /// What the last choice came to, in plain words.
+  const std::string& last_choice() const { return last_choice_; }
 
   void Frame4_MouseDown(const MouseEvent& event);
   void Frame4_MouseUp(const MouseEvent& event);
@@ -66,6 +68,7 @@ class PossibleSkins {
   Frame& selection_frame_;
   TextBox& description_;
   DragOrigin drag_;
+  std::string last_choice_;
   int viewed_plane_ = -1;  // plane that the viewed folder's own files are made for, -1 for none
 };
 

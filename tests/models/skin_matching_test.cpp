@@ -185,6 +185,8 @@ TEST_F(SkinMatching, AChosenSkinTakesTheFlightModelWithIt) {
   browser.apply_matched_skin();
   EXPECT_EQ(row_text(kSpitfireRow), "SP09 RAF Spit9 11 Spit9 Spitfire IX British Yes Fighter 100");
   EXPECT_TRUE(plane.Frame1.visible);
+  EXPECT_EQ(last_outcome(), "Slot SP09 now wears \"Spit9\"\nSlot SP09 now flies \"Spit9\"");
+  EXPECT_TRUE(lists.List2.visible);
   EXPECT_TRUE(plane.is_set(PlaneOption::kMatchSkin));
   EXPECT_FALSE(plane.is_set(PlaneOption::kFindFlightModel));
 }
