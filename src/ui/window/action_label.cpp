@@ -132,7 +132,8 @@ void ActionLabel::paintEvent(QPaintEvent*) {
   }
   const bool centred = look_ == Look::kButton || look_ == Look::kPrimary;
   const QString shown = painter.fontMetrics().elidedText(text(), Qt::ElideRight, area.width());
-  painter.drawText(area, Qt::AlignVCenter | (centred ? Qt::AlignHCenter : Qt::AlignLeft), shown);
+  const Qt::Alignment alignment = Qt::AlignVCenter | (centred ? Qt::AlignHCenter : Qt::AlignLeft);
+  painter.drawText(area, static_cast<int>(alignment), shown);
 }
 
 void ActionLabel::mousePressEvent(QMouseEvent* event) {
