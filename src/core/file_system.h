@@ -40,11 +40,10 @@ struct FolderEntry {
 /// Unless said otherwise an operation that fails throws ActionError with the path and the system's text.
 ///
 /// A file is always replaced whole: it is written under the name `neighbour_name(target)` in the target's
-/// folder and renamed, so that a crash leaves the old file or the new one. A failed write leaves the old file.
-/// A written file keeps the permissions of the one it replaces, is spelled as the given path spells it (another
-/// spelling of the name is gone afterwards), and never follows a symbolic link: the link itself is replaced.
-/// A file marked read-only (no write permission at all, on POSIX) is not replaced or removed: that is an error.
-/// Nothing here ever creates a folder.
+/// folder and renamed, so that a crash leaves the old file or the new one. A failed write leaves the old
+/// file. A written file keeps the permissions of the one it replaces, and never follows a symbolic link: the
+/// link itself is replaced. A file marked read-only (no write permission at all, on POSIX) is not replaced or
+/// removed: that is an error. Nothing here ever creates a folder.
 class FileSystem {
  public:
   static constexpr std::uint64_t kNoLimit = std::numeric_limits<std::uint64_t>::max();
@@ -60,8 +59,8 @@ class FileSystem {
   /// True when a folder of that name exists. Never fails.
   virtual bool FolderExists(std::string_view path) = 0;
 
-  /// True when the folder, wherever links lead its path, is `root` or lies below it. Never fails: a folder that
-  /// does not exist lies nowhere.
+  /// True when the folder, wherever links lead its path, is `root` or lies below it. Never fails: a folder
+  /// that does not exist lies nowhere.
   virtual bool lies_inside(std::string_view folder, std::string_view root) = 0;
 
   /// Everything directly inside the folder, in no order, without "." and "..". A folder that does not exist
@@ -75,11 +74,13 @@ class FileSystem {
   /// Length of the file in bytes.
   virtual std::uint64_t file_size(std::string_view path) = 0;
 
-  /// Makes `bytes` the whole content of the file, creating or replacing it.
+  /// Makes `bytes` the whole content of the file, creating or replacing it. A file that is there keeps the
+  /// spelling of its name.
   virtual void replace_file(std::string_view path, std::string_view bytes, Durability durability) = 0;
 
-  /// Makes the target hold the source's bytes. Only bytes are copied: not times, not attributes.
-  /// A target that already holds them is not written, but is renamed where its spelling differs.
+  /// Makes the target hold the source's bytes. Only bytes are copied: not times, not attributes. The target
+  /// is spelled as its path spells it; another spelling of the name is gone afterwards. A target that already
+  /// holds them is not written, but is renamed where its spelling differs.
   virtual CopyOutcome copy_file(std::string_view source, std::string_view target, Durability durability) = 0;
 
   /// Deletes the file.

@@ -11,6 +11,7 @@
 #include "core/file_system.h"
 #include "core/posix_content.h"
 #include "core/posix_folder.h"
+#include "core/posix_folder_reader.h"
 #include "core/posix_program.h"
 #include "core/posix_target.h"
 
@@ -54,7 +55,7 @@ class PosixFileSystem final : public FileSystem {
   /// Not open, with errno, where the place is no folder.
   FileHandle open_folder(Place& place);
   PosixSource open_source(std::string_view path);
-  PosixTarget open_target(std::string_view path);
+  PosixTarget open_target(std::string_view path, Spelling spelling);
 
   PosixFolders folders_;
   PosixContent content_;
@@ -138,12 +139,12 @@ bool PosixFileSystem::lies_inside(std::string_view folder, std::string_view root
   return true;
 }
 
-/// Tells files from folders; a link counts as what it leads to.
-bool kind_of(int folder, const dirent& entry, EntryKind& kind) {
-  mode_t mode = DTTOIF(entry.d_type);
-  if (entry.d_type == DT_UNKNOWN || entry.d_type == DT_LNK) {
+/// Tells files from folders; a link counts as what it leads to. False for what is neither.
+bool kind_of(int folder, const PosixFolderReader::Entry& entry, EntryKind& kind) {
+  auto mode = static_cast<mode_t>(DTTOIF(entry.type));
+  if (entry.type == DT_UNKNOWN || entry.type == DT_LNK) {
     struct stat status {};
-    if (::fstatat(folder, entry.d_name, &status, 0) != 0) return false;
+    if (::fstatat(folder, entry.name, &status, 0) != 0) return false;
     mode = status.st_mode;
   }
   kind = S_ISDIR(mode) ? EntryKind::kFolder : EntryKind::kFile;
@@ -157,18 +158,13 @@ std::vector<FolderEntry> PosixFileSystem::entries(std::string_view folder) {
   if (!handle.is_open() && (errno == ENOENT || errno == ENOTDIR)) return {};
   if (!handle.is_open()) throw_system_error(kAttempted, folder);
 
-  const std::unique_ptr<DIR, int (*)(DIR*)> stream(::fdopendir(handle.descriptor()), ::closedir);
-  if (!stream) throw_system_error(kAttempted, folder);
-  const int descriptor = handle.release();
   std::vector<FolderEntry> found;
-  errno = 0;
-  while (const dirent* entry = ::readdir(stream.get())) {
-    const std::string_view name = entry->d_name;
+  PosixFolderReader reader(handle.descriptor());
+  while (const auto* entry = reader.next()) {
+    const std::string_view name = entry->name;
     EntryKind kind{};
-    const bool wanted = name != "." && name != ".." && name.find('\\') == std::string_view::npos &&
-                        kind_of(descriptor, *entry, kind);
-    if (wanted) found.push_back({std::string(name), kind, name.front() == '.'});
-    errno = 0;
+    if (name.find('\\') != std::string_view::npos || !kind_of(handle.descriptor(), *entry, kind)) continue;
+    found.push_back({std::string(name), kind, name.front() == '.'});
   }
   if (errno != 0) throw_system_error(kAttempted, folder);
   return found;
@@ -178,9 +174,8 @@ PosixSource PosixFileSystem::open_source(std::string_view path) {
   PosixSource source;
   source.path = path;
   Place place = place_of(path, EntryKind::kFile);
-  // O_NONBLOCK: a pipe must not hold the program up before it is refused.
   const bool opened = with_spelling(place, [&source](int folder, const char* name) {
-    source.handle = open_at(folder, name, O_RDONLY | O_NONBLOCK);
+    source.handle = open_to_read(folder, name);
     return source.handle.is_open();
   });
   if (!opened || ::fstat(source.handle.descriptor(), &source.status) != 0) throw_system_error("read", path);
@@ -214,14 +209,14 @@ std::uint64_t PosixFileSystem::file_size(std::string_view path) {
   return static_cast<std::uint64_t>(status.st_size);
 }
 
-PosixTarget PosixFileSystem::open_target(std::string_view path) {
+PosixTarget PosixFileSystem::open_target(std::string_view path, Spelling spelling) {
   Place place = place_of(path, EntryKind::kFile);
   if (!place.folder) throw_system_error("write", path);
-  return PosixTarget(std::move(place.folder), std::move(place.name), path);
+  return PosixTarget(std::move(place.folder), std::move(place.name), path, spelling);
 }
 
 void PosixFileSystem::replace_file(std::string_view path, std::string_view bytes, Durability durability) {
-  PosixTarget target = open_target(path);
+  PosixTarget target = open_target(path, Spelling::kAsItStands);
   const int written = target.begin();
   if (!write_all(written, bytes)) throw_system_error("write", path);
   target.finish(durability);
@@ -230,7 +225,7 @@ void PosixFileSystem::replace_file(std::string_view path, std::string_view bytes
 CopyOutcome PosixFileSystem::copy_file(std::string_view source_path, std::string_view target_path,
                                        Durability durability) {
   const PosixSource source = open_source(source_path);
-  PosixTarget target = open_target(target_path);
+  PosixTarget target = open_target(target_path, Spelling::kAsAsked);
   content_.take(source);
 
   if (target.readable() >= 0 && target.status().st_size == source.status.st_size) {

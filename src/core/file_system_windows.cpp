@@ -140,7 +140,7 @@ std::uint64_t WindowsFileSystem::file_size(std::string_view path) {
 }
 
 void WindowsFileSystem::replace_file(std::string_view path, std::string_view bytes, Durability durability) {
-  WindowsTarget target(path);
+  WindowsTarget target(path, Spelling::kAsItStands);
   const HANDLE written = target.begin();
   if (!write_all(written, bytes)) throw_windows_error("write", path);
   target.finish(durability);
@@ -149,7 +149,7 @@ void WindowsFileSystem::replace_file(std::string_view path, std::string_view byt
 CopyOutcome WindowsFileSystem::copy_file(std::string_view source_path, std::string_view target_path,
                                          Durability durability) {
   const WindowsSource source(source_path);
-  WindowsTarget target(target_path);
+  WindowsTarget target(target_path, Spelling::kAsAsked);
   {
     const WindowsHandle existing = target.open_to_compare(source.size());
     if (existing.is_open() && content_.same(source, existing.get())) {

@@ -16,7 +16,7 @@ namespace {
 
 constexpr mode_t kAnyWrite = S_IWUSR | S_IWGRP | S_IWOTH;
 constexpr mode_t kPermissions = S_IRWXU | S_IRWXG | S_IRWXO;
-constexpr mode_t kUsualPermissions = kPermissions & ~(S_IXUSR | S_IXGRP | S_IXOTH);
+constexpr mode_t kUsualPermissions = S_IRUSR | S_IWUSR | S_IRGRP | S_IWGRP | S_IROTH | S_IWOTH;
 
 }  // namespace
 
@@ -26,7 +26,8 @@ void refuse_read_only(const struct stat& status, std::string_view attempted, std
   }
 }
 
-PosixTarget::PosixTarget(std::shared_ptr<PosixFolder> folder, std::string name, std::string_view path)
+PosixTarget::PosixTarget(std::shared_ptr<PosixFolder> folder, std::string name, std::string_view path,
+                         Spelling spelling)
     : folder_(std::move(folder)), name_(std::move(name)), path_(path) {
   auto found = folder_->spellings(name_);
   if (!found) fail();
@@ -37,6 +38,10 @@ PosixTarget::PosixTarget(std::shared_ptr<PosixFolder> folder, std::string name, 
     current_ = std::move(others_.front());
     others_.erase(others_.begin());
   }
+  if (is_there() && spelling == Spelling::kAsItStands) {
+    name_ = current_;
+    others_.clear();
+  }
   if (is_there()) look();
 }
 
@@ -45,8 +50,7 @@ PosixTarget::~PosixTarget() {
 }
 
 void PosixTarget::look() {
-  // O_NONBLOCK: a pipe that stands there must not hold the program up.
-  existing_ = open_at(folder_->descriptor(), current_.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK);
+  existing_ = open_to_read(folder_->descriptor(), current_.c_str(), O_NOFOLLOW);
   const int result = existing_.is_open()
                          ? ::fstat(existing_.descriptor(), &status_)
                          : ::fstatat(folder_->descriptor(), current_.c_str(), &status_, AT_SYMLINK_NOFOLLOW);
@@ -85,8 +89,15 @@ int PosixTarget::begin() {
     if (!left_over || ::unlinkat(folder_->descriptor(), neighbour.c_str(), 0) != 0 || !create()) fail();
   }
   neighbour_ = neighbour;
-  if (replaces && ::fchmod(written_.descriptor(), mode) != 0) fail();
+  if (replaces) set_mode(mode);
   return written_.descriptor();
+}
+
+/// Brings back the permissions that the process's mask has taken from the new file, if any.
+void PosixTarget::set_mode(mode_t mode) {
+  struct stat status {};
+  if (::fstat(written_.descriptor(), &status) != 0) fail();
+  if ((status.st_mode & kPermissions) != mode && ::fchmod(written_.descriptor(), mode) != 0) fail();
 }
 
 void PosixTarget::finish(Durability durability) {

@@ -10,6 +10,7 @@
 
 #include "core/file_system.h"
 #include "core/posix_folder.h"
+#include "core/spelling.h"
 
 namespace vorlund {
 
@@ -17,8 +18,10 @@ namespace vorlund {
 /// whole until `finish` has put the new one in its place.
 class PosixTarget {
  public:
-  /// Looks up what is there. `path` is the path as the program spells it, for error reports.
-  PosixTarget(std::shared_ptr<PosixFolder> folder, std::string name, std::string_view path);
+  /// Looks up what is there. `path` is the path as the program spells it, for error reports; it outlives
+  /// this.
+  PosixTarget(std::shared_ptr<PosixFolder> folder, std::string name, std::string_view path,
+              Spelling spelling);
 
   /// Removes the neighbour of a write that was not finished.
   ~PosixTarget();
@@ -44,12 +47,13 @@ class PosixTarget {
   bool is_there() const { return !current_.empty(); }
   void look();
   void refuse_read_only_others() const;
+  void set_mode(mode_t mode);
   void settle_spelling();
   [[noreturn]] void fail() const;
 
   std::shared_ptr<PosixFolder> folder_;
   std::string name_;
-  std::string path_;
+  std::string_view path_;
   std::string neighbour_;
   std::string current_;              ///< spelling of the file that is there, "" when there is none
   std::vector<std::string> others_;  ///< its further spellings

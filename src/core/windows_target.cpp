@@ -37,7 +37,7 @@ bool is_link(const WIN32_FIND_DATAW& entry) {
          IsReparseTagNameSurrogate(entry.dwReserved0);
 }
 
-WindowsTarget::WindowsTarget(std::string_view path)
+WindowsTarget::WindowsTarget(std::string_view path, Spelling spelling)
     : path_(path), long_path_(long_path(path, EntryKind::kFile)) {
   const std::size_t name_begin = long_path_.rfind(L'\\') + 1;
   folder_ = long_path_.substr(0, name_begin);
@@ -49,6 +49,9 @@ WindowsTarget::WindowsTarget(std::string_view path)
     if (GetLastError() != ERROR_FILE_NOT_FOUND) fail();
   } else if ((existing_->dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
     throw ActionError("write", path_, "it is a folder");
+  } else if (spelling == Spelling::kAsItStands && spelled_otherwise()) {
+    name_ = existing_->cFileName;
+    long_path_ = folder_ + name_;
   }
 }
 

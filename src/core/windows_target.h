@@ -9,6 +9,7 @@
 #include <string_view>
 
 #include "core/file_system.h"
+#include "core/spelling.h"
 #include "core/windows_file.h"
 
 namespace vorlund {
@@ -18,7 +19,7 @@ namespace vorlund {
 class WindowsTarget {
  public:
   /// Looks up what is there. `path` is the path as the program spells it.
-  explicit WindowsTarget(std::string_view path);
+  WindowsTarget(std::string_view path, Spelling spelling);
 
   /// Removes the neighbour of a write that was not finished.
   ~WindowsTarget();

@@ -268,7 +268,7 @@ TEST_F(AircraftInstaller, MenusGetTheNamesOfTheirRecordsInOrder) {
   folder.write("picplng.mnu", menu(std::vector<std::string>(11, "Alt")));
   const AircraftSummary summary = install();
   EXPECT_EQ(folder.read("picplnb.mnu"), menu({"N13", "N11", "N10", "N9", "N14", "N12", "Old", "Old", "Old"}));
-  EXPECT_EQ(folder.read("picplna.mnu"), menu({"N5", "N3", "N4", "N2", "N0", "N1", "Old", "Old", "Old"}));
+  EXPECT_EQ(folder.read("PICPLNA.MNU"), menu({"N5", "N3", "N4", "N2", "N0", "N1", "Old", "Old", "Old"}));
   EXPECT_EQ(folder.read("picplng.mnu"),
             menu({"N18", "N17", "N22", "N23", "N16", "N24", "N20", "N19", "Alt", "Alt", "Alt"}));
   EXPECT_EQ(summary.menus, 3u);

@@ -154,6 +154,14 @@ TEST_F(GameInstaller, ALaterPatchWinsAndAppliesToAnExecutableThatAnEarlierRowCop
   EXPECT_EQ(folder.read("eaw.exe"), "X!cdef");
 }
 
+TEST_F(GameInstaller, APatchedExecutableKeepsTheSpellingOfItsName) {
+  folder.write("EAW.EXE", "0123");
+  store("Patches/One/fix.ldr", "\x01\0\0\x01\0\0x"s);
+  install({{"Patches", "One"}});
+  EXPECT_EQ(folder.read("EAW.EXE"), "0x23");
+  EXPECT_FALSE(folder.has("eaw.exe"));
+}
+
 TEST_F(GameInstaller, PatchesOfOneFolderApplyInTheOrderOfTheirNames) {
   folder.write("eaw.exe", "....");
   store("Patches/One/b.ldr", "\x00\0\0\x00\0\0b"s);
