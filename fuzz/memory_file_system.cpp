@@ -55,10 +55,6 @@ bool MemoryFileSystem::lies_inside(std::string_view folder, std::string_view roo
   return FolderExists(folder) && (key_of(folder) + "\\").starts_with(key_of(root) + "\\");
 }
 
-bool MemoryFileSystem::lies_inside(std::string_view folder, std::string_view root) {
-  return FolderExists(folder) && (key_of(folder) + "\\").starts_with(key_of(root) + "\\");
-}
-
 std::vector<FolderEntry> MemoryFileSystem::entries(std::string_view folder) {
   const std::string prefix = key_of(folder) + "\\";
   const auto separators = std::count(prefix.begin(), prefix.end(), '\\');

@@ -18,7 +18,6 @@ class MemoryFileSystem : public FileSystem {
   bool FileExists(std::string_view path) override;
   bool FolderExists(std::string_view path) override;
   bool lies_inside(std::string_view folder, std::string_view root) override;
-  bool lies_inside(std::string_view folder, std::string_view root) override;
   std::vector<FolderEntry> entries(std::string_view folder) override;
   std::string read_file(std::string_view path, std::uint64_t limit = kNoLimit) override;
   std::uint64_t file_size(std::string_view path) override;
