@@ -40,8 +40,13 @@ install_packages() {
   say "Installing packages: ${missing[*]}"
   as_root env DEBIAN_FRONTEND=noninteractive apt-get -qq update </dev/null ||
     echo "The package lists could not all be brought up to date; going on with what is there."
-  as_root env DEBIAN_FRONTEND=noninteractive apt-get -qq install --yes --no-install-recommends \
-    -o DPkg::Lock::Timeout=300 -o Dpkg::Use-Pty=0 "${missing[@]}" </dev/null
+  local log="$root/build/packages.log"
+  mkdir -p "$root/build"
+  if ! as_root env DEBIAN_FRONTEND=noninteractive apt-get -qq install --yes --no-install-recommends \
+    -o DPkg::Lock::Timeout=300 -o Dpkg::Use-Pty=0 "${missing[@]}" </dev/null >"$log" 2>&1; then
+    cat "$log" >&2
+    fail "the packages could not be installed"
+  fi
 }
 
 # configure PRESET [CMAKE-ARGUMENT...]: prepares build/PRESET.

@@ -7,6 +7,7 @@
 #include <QTimer>
 #include <algorithm>
 #include <cstdio>
+#include <limits>
 #include <stdexcept>
 
 namespace vorlund {
@@ -52,8 +53,9 @@ struct Tour::Choice {
   QString folder;
 };
 
-/// The folder that holds the most files of a kind; none where no folder holds any.
-Tour::Choice Tour::folder_with_most(const QStringList& groups, const QString& mask) {
+/// The first folder that holds enough files of a kind, else the one that holds the most; none where no folder
+/// holds any.
+Tour::Choice Tour::folder_with(const QStringList& groups, const QString& mask, qsizetype enough) {
   Choice found;
   qsizetype most = 0;
   for (const QString& group : groups) {
@@ -63,6 +65,7 @@ Tour::Choice Tour::folder_with_most(const QStringList& groups, const QString& ma
       if (count <= most) continue;
       most = count;
       found = {group, name};
+      if (most >= enough) return found;
     }
   }
   return found;
@@ -114,12 +117,12 @@ void Tour::game_work() {
     const QString group = QString::fromStdString(table.cell(row, GameTable::kGroup));
     if (groups.contains(group) && !served.contains(group)) served.append(group);
   }
-  const Choice patches = folder_with_most(served, "*.ldr");
+  const Choice patches = folder_with(served, "*.ldr", 1);
   if (!patches.folder.isEmpty()) {
     choose_game_folder(patches, "patches");
     served.removeAll(patches.group);
   }
-  const Choice large = folder_with_most(served, "*");
+  const Choice large = folder_with(served, "*", std::numeric_limits<qsizetype>::max());
   if (!large.folder.isEmpty()) choose_game_folder(large, "large-set");
   choose_game_folder({groups.last(), {}}, "last-group");
   click("Label2");

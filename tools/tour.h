@@ -27,7 +27,7 @@ class Tour {
 
  private:
   struct Choice;
-  static Choice folder_with_most(const QStringList& groups, const QString& mask);
+  static Choice folder_with(const QStringList& groups, const QString& mask, qsizetype enough);
 
   void start();
   void game_work();
