@@ -23,8 +23,9 @@ constexpr std::string_view kLoosePattern =
 /// Files of the game itself that the masks would take.
 constexpr std::array<std::string_view, 4> kSpared = {"DSG.ICO", "EXTRA.SPT", "CHATLINE.TXT", "HOF.DAT"};
 
-/// The folder that the careers row names. Wherever links lead, it must lie in the store and inside the game
-/// folder, and be another than "Savedata", where a save moved home would be a save deleted.
+/// The folder that the careers row names. Wherever links in the store lead, it must lie in "GameStore", and
+/// be another than "Savedata", where a save moved home would be a save deleted. The store as a whole may be a
+/// link: players keep large stores on another disk.
 std::string careers_home(Environment& environment, const std::string& name) {
   const std::string home = environment.game.path(kCareersStore) + "\\" + name;
   const auto refuse = [&home](std::string_view why) {
@@ -33,10 +34,8 @@ std::string careers_home(Environment& environment, const std::string& name) {
   const bool group_itself = name.empty();  // a cleared careers row names the folder of the group
   const bool named = group_itself || is_plain_name(name);
   if (!named || !environment.files.FolderExists(home)) refuse("there is no such folder");
-  for (const std::string_view above : {std::string_view(), kGameStore}) {
-    if (!environment.files.lies_inside(home, environment.game.path(above)))
-      refuse("it leads out of the store");
-  }
+  if (!environment.files.lies_inside(home, environment.game.path(kGameStore)))
+    refuse("it leads out of the store");
   if (environment.files.lies_inside(home, environment.game.path(kSavedata)))
     refuse("it leads to \"Savedata\"");
   return home;

@@ -203,6 +203,15 @@ TEST_F(HostileCareers, AStoreOrSavedataThatIsALinkLosesNoSave) {
   EXPECT_EQ(lost(kSaves), "");
 }
 
+TEST_F(HostileCareers, AStoreThatThePlayerKeepsOnAnotherDiskTakesTheSavesHome) {
+  const fs::path game = fs::path(folder.path()) / "game";
+  fs::rename(game / "~Vorlund", game.parent_path() / "store");
+  fs::create_directory_symlink("../store", game / "~Vorlund");
+  EXPECT_TRUE(clean({{"Careers", "Camp1"}}));
+  for (const auto& [name, bytes] : kSaves)
+    EXPECT_EQ(folder.read("store/GameStore/Careers/Camp1/" + name), bytes);
+}
+
 TEST_F(HostileCareers, ASaveThatIsALinkLeavesItsFileAndADeletedLinkLeavesItsTarget) {
   const fs::path game = fs::path(folder.path()) / "game";
   fs::create_symlink("../../outside/loose.dat", game / "Savedata/clink.sve");
