@@ -1,6 +1,8 @@
 // The thirty codes in the game's order of records.
 #include "aircraft/plane_codes.h"
 
+#include <algorithm>
+
 #include "core/text.h"
 
 namespace vorlund {
@@ -12,11 +14,13 @@ PlaneCodes PlaneCodeSet() {
 }
 
 int plane_code_index(std::string_view code) {
-  static const PlaneCodes codes = PlaneCodeSet();
-  for (std::size_t index = 0; index < codes.size(); ++index) {
-    if (to_upper(codes[index]) == to_upper(code)) return static_cast<int>(index);
-  }
-  return -1;
+  static const PlaneCodes upper_codes = [] {
+    PlaneCodes codes = PlaneCodeSet();
+    for (std::string& plane_code : codes) plane_code = to_upper(plane_code);
+    return codes;
+  }();
+  const auto found = std::find(upper_codes.begin(), upper_codes.end(), to_upper(code));
+  return found == upper_codes.end() ? -1 : static_cast<int>(found - upper_codes.begin());
 }
 
 }  // namespace vorlund

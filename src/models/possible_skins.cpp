@@ -1,6 +1,7 @@
 // Lists, shows and chooses the skins that fit a slot.
 #include "models/possible_skins.h"
 
+#include "aircraft/plane_codes.h"
 #include "core/code_page.h"
 #include "core/listing.h"
 #include "core/plain_name.h"
@@ -95,7 +96,7 @@ void PossibleSkins::read_code(const std::vector<FolderEntry>& entries, std::stri
   const std::string code = first_file_code(entries, pattern);
   if (code.empty()) return;
   environment_.labels.SkinLab2.caption = code;
-  viewed_plane_ = plane_number(code);
+  viewed_plane_ = plane_code_index(code);
   if (viewed_plane_ < 0) return;
   environment_.labels.SkinLab3.caption = std::to_string(viewed_plane_);
   Label37.caption = code;

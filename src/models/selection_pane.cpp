@@ -1,6 +1,7 @@
 // Group labels, selection labels, and what choosing a selection puts into the tables.
 #include "models/selection_pane.h"
 
+#include "aircraft/plane_codes.h"
 #include "core/code_page.h"
 #include "core/plain_name.h"
 #include "core/store.h"
@@ -132,7 +133,7 @@ void SelectionPane::show_slot(const std::string& folder) {
   labels.SkinLab3.caption.clear();
   labels.SkinLab2.caption = first_file_code(entries, kShapePattern);
   if (labels.SkinLab2.caption.empty()) labels.SkinLab2.caption = first_file_code(entries, kTexturePattern);
-  const int plane = plane_number(labels.SkinLab2.caption);
+  const int plane = plane_code_index(labels.SkinLab2.caption);
   if (plane < 0) return;
   labels.SkinLab3.caption = std::to_string(plane);
   labels.Label43.caption = plane_.table.G1.cell(plane + 1, PlaneTable::kRegion);

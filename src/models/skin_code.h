@@ -16,7 +16,4 @@ inline constexpr std::string_view kTexturePattern = "p*.tpc";
 /// game's shape and texture names are "p" followed by the four characters of the plane code.
 std::string first_file_code(const std::vector<FolderEntry>& entries, std::string_view pattern);
 
-/// Index 0 to 29 of the plane code that equals `code` without regard to case; -1 for no plane.
-int plane_number(std::string_view code);
-
 }  // namespace vorlund

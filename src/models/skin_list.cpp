@@ -1,6 +1,7 @@
 // Writes the skin list from the skin store and finds a slot's skins in it.
 #include "models/skin_list.h"
 
+#include "aircraft/plane_codes.h"
 #include "core/code_page.h"
 #include "core/listing.h"
 #include "core/store.h"
@@ -19,7 +20,7 @@ constexpr std::size_t kTailLength = kCodeLength + 1;  // the backslash and the c
 std::string skin_code(const std::vector<FolderEntry>& entries) {
   for (const std::string_view pattern : {kShapePattern, kTexturePattern}) {
     std::string code = first_file_code(entries, pattern);
-    if (plane_number(code) >= 0) return code;
+    if (plane_code_index(code) >= 0) return code;
   }
   return {};
 }

@@ -41,10 +41,11 @@ TEST(SkinCode, EveryPlaneCodeHasItsNumberInAnyCase) {
   const PlaneCodes codes = PlaneCodeSet();
   for (int index = 0; index < kPlaneCount; ++index) {
     const std::string& code = codes[static_cast<std::size_t>(index)];
-    EXPECT_EQ(plane_number(code), index) << code;
-    EXPECT_EQ(plane_number(to_upper(code)), index) << code;
+    EXPECT_EQ(plane_code_index(code), index) << code;
+    EXPECT_EQ(plane_code_index(to_upper(code)), index) << code;
   }
-  for (const char* code : {"", "XXXX", "SP0", "SP099", " SP09"}) EXPECT_EQ(plane_number(code), -1) << code;
+  for (const char* code : {"", "XXXX", "SP0", "SP099", " SP09"})
+    EXPECT_EQ(plane_code_index(code), -1) << code;
 }
 
 }  // namespace
