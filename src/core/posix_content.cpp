@@ -17,7 +17,7 @@ namespace vorlund {
 namespace {
 
 constexpr std::size_t kBlock = 256 * 1024;
-constexpr std::size_t kFirstBlock = 4096;  // most files that differ do so here
+constexpr std::size_t kFirstBlock = 4096;
 constexpr std::uint64_t kPulseBytes = 8 << 20;
 
 /// Reads up to `size` bytes at an offset, fewer only at the end of the file; -1, with errno, on failure.
@@ -45,19 +45,23 @@ void PosixContent::take(const PosixSource& source) {
 }
 
 bool PosixContent::same_as(const PosixSource& source, int target) {
-  std::size_t step = kFirstBlock;
+  // Files that differ mostly do so early; but a set that is installed again is the same throughout.
+  std::size_t step = last_was_same_ ? kBlock : kFirstBlock;
+  last_was_same_ = false;
   for (std::uint64_t offset = 0; offset < source.size();) {
     const auto size = static_cast<std::size_t>(std::min<std::uint64_t>(step, source.size() - offset));
     const std::string_view expected = whole_source_read_
                                           ? std::string_view(source_buffer_.data() + offset, size)
                                           : source_block(source, offset, size);
     const ssize_t got = read_at(target, target_buffer_.data(), size, offset);
-    if (got != static_cast<ssize_t>(size) || expected != std::string_view(target_buffer_.data(), size))
+    if (got != static_cast<ssize_t>(size) || expected != std::string_view(target_buffer_.data(), size)) {
       return false;
+    }
     worked_through(size);
     offset += size;
     step = kBlock;
   }
+  last_was_same_ = true;
   return true;
 }
 

@@ -6,7 +6,6 @@
 #include <cstdint>
 #include <functional>
 #include <set>
-#include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -19,7 +18,7 @@ namespace vorlund {
 struct PosixSource {
   FileHandle handle;
   struct stat status {};
-  std::string path;  ///< as the program spells it, for error reports
+  std::string_view path;  ///< as the program spells it, for error reports; it outlives this
 
   std::uint64_t size() const { return static_cast<std::uint64_t>(status.st_size); }
 };
@@ -51,6 +50,7 @@ class PosixContent {
   std::vector<char> source_buffer_;
   std::vector<char> target_buffer_;
   bool whole_source_read_ = false;
+  bool last_was_same_ = false;                      ///< what the last comparison came to
   std::set<std::pair<dev_t, dev_t>> cannot_clone_;  ///< pairs of disks that have refused to share blocks
 };
 

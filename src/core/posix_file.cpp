@@ -46,6 +46,15 @@ FileHandle open_at(int folder, const char* name, int flags, mode_t mode) {
   return FileHandle(descriptor);
 }
 
+FileHandle open_to_read(int folder, const char* name, int flags) {
+#ifdef O_NOATIME
+  // Allowed for the owner's files alone.
+  FileHandle unmarked = open_at(folder, name, O_RDONLY | O_NONBLOCK | O_NOATIME | flags);
+  if (unmarked.is_open() || errno != EPERM) return unmarked;
+#endif
+  return open_at(folder, name, O_RDONLY | O_NONBLOCK | flags);
+}
+
 ssize_t read_up_to(int descriptor, char* bytes, std::size_t size) {
   std::size_t done = 0;
   while (done < size) {

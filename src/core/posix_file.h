@@ -39,6 +39,10 @@ class FileHandle {
 /// in. Not open, with errno, on failure.
 FileHandle open_at(int folder, const char* name, int flags, mode_t mode = 0);
 
+/// Opens a name inside an open folder for reading, `flags` besides. Neither waits for a pipe that stands
+/// there nor, where the system allows it, marks the file as read, which would write to the disk.
+FileHandle open_to_read(int folder, const char* name, int flags = 0);
+
 /// Reads up to `size` bytes, fewer only at the end of the file; -1, with errno, on failure.
 ssize_t read_up_to(int descriptor, char* bytes, std::size_t size);
 

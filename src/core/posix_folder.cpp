@@ -1,13 +1,13 @@
 // Reads folders to find the spellings of names, and remembers folders during an action.
 #include "core/posix_folder.h"
 
-#include <dirent.h>
 #include <fcntl.h>
 
 #include <algorithm>
 #include <cerrno>
 #include <utility>
 
+#include "core/posix_folder_reader.h"
 #include "core/text.h"
 #include "core/utf8.h"
 
@@ -124,12 +124,10 @@ void PosixFolder::name_removed(std::string_view name) {
 }
 
 bool PosixFolder::read_names(const std::function<void(std::string_view)>& take) const {
-  const int descriptor = ::openat(handle_.descriptor(), ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-  const std::unique_ptr<DIR, int (*)(DIR*)> stream(descriptor < 0 ? nullptr : ::fdopendir(descriptor),
-                                                   ::closedir);
-  if (!stream) return false;
-  errno = 0;
-  while (const dirent* entry = ::readdir(stream.get())) take(entry->d_name);
+  const FileHandle opened = open_at(handle_.descriptor(), ".", O_RDONLY | O_DIRECTORY);
+  if (!opened.is_open()) return false;
+  PosixFolderReader reader(opened.descriptor());
+  while (const auto* entry = reader.next()) take(entry->name);
   return errno == 0;
 }
 

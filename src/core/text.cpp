@@ -21,10 +21,23 @@ std::size_t skip_digits(std::string_view text, std::size_t at) {
   return at;
 }
 
+bool continues(std::string_view text, std::size_t at) {
+  return at < text.size() && (static_cast<unsigned char>(text[at]) & 0xC0) == 0x80;
+}
+
+/// Position of the first character that is not spelled by the same bytes in both texts.
+std::size_t common_beginning(std::string_view a, std::string_view b) {
+  const std::size_t shorter = std::min(a.size(), b.size());
+  std::size_t at = 0;
+  while (at < shorter && a[at] == b[at]) ++at;
+  while (at > 0 && (continues(a, at) || continues(b, at))) --at;
+  return at;
+}
+
 /// Compares folded characters; less than, equal to or greater than 0.
 int compare_folded(std::string_view a, std::string_view b) {
-  std::size_t in_a = 0;
-  std::size_t in_b = 0;
+  std::size_t in_a = common_beginning(a, b);
+  std::size_t in_b = in_a;
   while (in_a < a.size() && in_b < b.size()) {
     const char32_t left = upper_character(next_character(a, in_a));
     const char32_t right = upper_character(next_character(b, in_b));
