@@ -11,7 +11,9 @@ FileSystem::Action::Action(FileSystem& files, Pulse pulse) : files_(files) {
   files_.begin_action(std::move(pulse));
 }
 
-FileSystem::Action::~Action() { files_.end_action(); }
+FileSystem::Action::~Action() {
+  files_.end_action();
+}
 
 std::string_view neighbour_name(std::string_view target) {
   constexpr std::string_view kUsual = "~vorlund.bak";

@@ -17,7 +17,8 @@ bool matches_pattern(std::string_view name, std::string_view pattern);
 /// without regard to case. A folder that does not exist gives none.
 std::vector<std::string> list_files(FileSystem& files, std::string_view folder, std::string_view pattern);
 
-/// As `list_files`, from entries that were read before: for callers that apply several patterns to one folder.
+/// As `list_files`, from entries that were read before: for callers that apply several patterns to one
+/// folder.
 std::vector<std::string> matching_files(const std::vector<FolderEntry>& entries, std::string_view pattern);
 
 /// Bare names of the folders directly in the folder, ascending without regard to case. The path of each is

@@ -18,9 +18,9 @@ inline constexpr NameRules kPlatformNameRules = NameRules::kPosix;
 #endif
 
 /// True when `name` can only mean one file or folder directly inside the folder it is joined to.
-/// Never plain on any platform: the empty name, names of dots and blanks alone, names with a slash, backslash,
-/// colon or control character. A row that names a folder which is not plain is passed over like one whose
-/// folder does not exist.
+/// Never plain on any platform: the empty name, names of dots and blanks alone, names with a slash,
+/// backslash, colon or control character. A row that names a folder which is not plain is passed over like
+/// one whose folder does not exist.
 bool is_plain_name(std::string_view name, NameRules rules = kPlatformNameRules);
 
 }  // namespace vorlund
