@@ -1,0 +1,112 @@
+// Mouse and keyboard of the window tests.
+#include "window/program_window.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QScrollArea>
+#include <QtTest/QTest>
+#include <algorithm>
+#include <filesystem>
+
+namespace vorlund::test {
+
+namespace {
+
+void enter_folder(std::string path) {
+#ifndef _WIN32
+  std::replace(path.begin(), path.end(), '\\', '/');
+#endif
+  std::filesystem::current_path(std::filesystem::path(std::u8string(path.begin(), path.end())));
+}
+
+}  // namespace
+
+ProgramWindow::~ProgramWindow() {
+  window_.reset();
+  std::filesystem::current_path(std::filesystem::temp_directory_path());
+  EXPECT_EQ(error, "");
+}
+
+void ProgramWindow::restart() {
+  enter_folder(folder.path());
+  window_ =
+      std::make_unique<MainWindow>(*files_, [this](const QString& text) { error = text.toStdString(); });
+  if (!window_->start()) throw std::runtime_error("the window does not start: " + error);
+  window_->resize(1200, 620);
+  click("Label17");
+}
+
+QWidget* ProgramWindow::widget(const QString& name) {
+  auto* found = window_->findChild<QWidget*>(name);
+  if (found == nullptr) throw std::runtime_error("there is no widget " + name.toStdString());
+  return found;
+}
+
+QString ProgramWindow::text(const QString& name) {
+  QWidget* found = widget(name);
+  if (auto* label = qobject_cast<QLabel*>(found)) return label->text();
+  if (auto* button = qobject_cast<QAbstractButton*>(found)) return button->text();
+  if (auto* edit = qobject_cast<QLineEdit*>(found)) return edit->text();
+  throw std::runtime_error(name.toStdString() + " shows no text");
+}
+
+void ProgramWindow::click(const QString& name, Qt::MouseButton button) {
+  QWidget* target = widget(name);
+  for (QWidget* parent = target->parentWidget(); parent != nullptr; parent = parent->parentWidget()) {
+    if (auto* area = qobject_cast<QScrollArea*>(parent)) area->ensureWidgetVisible(target);
+  }
+  click_at(target, target->rect().center(), button);
+}
+
+void ProgramWindow::click_at(QWidget* target, const QPoint& point, Qt::MouseButton button) {
+  QApplication::processEvents();
+  const QPoint spot = target->mapTo(window_.get(), point);
+  QWidget* hit = window_->childAt(spot);
+  const std::string name = target->objectName().toStdString();
+  ASSERT_TRUE(target->isVisible()) << name << " is hidden";
+  ASSERT_TRUE(window_->rect().contains(spot)) << name << " lies outside the window";
+  ASSERT_TRUE(hit == target || target->isAncestorOf(hit))
+      << name << " is covered by " << (hit ? hit->objectName().toStdString() : "nothing");
+  QTest::mouseClick(target, button, Qt::NoModifier, point);
+  QApplication::processEvents();
+}
+
+void ProgramWindow::click_cell(int row, int column) {
+  auto* view = static_cast<GridView*>(widget("G1"));
+  const int shown = view->grid_model().table_row(row);
+  ASSERT_GE(shown, 0) << "row " << row << " is hidden";
+  const QModelIndex index = view->grid_model().index(shown, column);
+  view->scrollTo(index);
+  click_at(view->viewport(), view->visualRect(index).center());
+}
+
+void ProgramWindow::click_entry(const QString& list, int index) {
+  auto* view = static_cast<ListView*>(widget(list));
+  const QModelIndex entry = view->model()->index(index, 0);
+  ASSERT_TRUE(entry.isValid()) << list.toStdString() << " has no entry " << index;
+  view->scrollTo(entry);
+  click_at(view->viewport(), view->visualRect(entry).center());
+}
+
+void ProgramWindow::type(const QString& name, const QString& text) {
+  QTest::keyClicks(widget(name), text);
+}
+
+void ProgramWindow::press_key(const QString& name, Qt::Key key) {
+  QTest::keyClick(widget(name), key);
+}
+
+void ProgramWindow::drag(const QString& name, const QPoint& from, const QPoint& by, Qt::MouseButton button) {
+  QWidget* target = widget(name);
+  QTest::mousePress(target, button, Qt::NoModifier, from);
+  // The widget follows the pointer, so that the release lies where the press lay within it.
+  QMouseEvent move(QEvent::MouseMove, QPointF(from + by), QPointF(target->mapToGlobal(from + by)), button,
+                   button, Qt::NoModifier);
+  QApplication::sendEvent(target, &move);
+  QTest::mouseRelease(target, button, Qt::NoModifier, from);
+  QApplication::processEvents();
+}
+
+}  // namespace vorlund::test

@@ -1,0 +1,61 @@
+// The real window in a game folder of the test, used with mouse and keyboard.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QString>
+#include <QWidget>
+#include <memory>
+#include <string>
+
+#include "support/temporary_folder.h"
+#include "ui/window/grid_view.h"
+#include "ui/window/list_view.h"
+#include "ui/window/main_window.h"
+
+namespace vorlund::test {
+
+/// Starts the program's window inside `folder`, once the test has filled it. What a user could not reach with
+/// the mouse (hidden, covered, off the window) fails the test.
+class ProgramWindow : public ::testing::Test {
+ protected:
+  ~ProgramWindow() override;
+
+  /// Starts the program and takes the game directory as confirmed. A window that is there already is ended
+  /// before, as when the program is started a second time.
+  void restart();
+
+  Form1& form() { return window_->form(); }
+  MainWindow& window() { return *window_; }
+  const Grid& table() { return form().plane.table.G1; }
+
+  /// The widget of that object name, which must exist.
+  QWidget* widget(const QString& name);
+  bool sees(const QString& name) { return widget(name)->isVisible(); }
+  QString text(const QString& name);
+
+  /// Clicks a control, scrolled to first.
+  void click(const QString& name, Qt::MouseButton button = Qt::LeftButton);
+  void click_at(QWidget* target, const QPoint& point, Qt::MouseButton button = Qt::LeftButton);
+
+  /// Clicks a cell of `G1`, scrolled to first; the row must be shown.
+  void click_cell(int row, int column);
+
+  /// Clicks an entry of a list, scrolled to first.
+  void click_entry(const QString& list, int index);
+
+  void type(const QString& name, const QString& text);
+  void press_key(const QString& name, Qt::Key key);
+
+  /// Presses at one place of a widget and releases at another.
+  void drag(const QString& name, const QPoint& from, const QPoint& by, Qt::MouseButton button);
+
+  TemporaryFolder folder;
+  std::string error;  ///< what the program reported before it ended, "" while all is well
+
+ private:
+  std::unique_ptr<FileSystem> files_ = make_platform_file_system();
+  std::unique_ptr<MainWindow> window_;
+};
+
+}  // namespace vorlund::test
