@@ -13,7 +13,7 @@ class GamePane {
  public:
   explicit GamePane(Environment& environment);
 
-  Frame GameFrame{"Game Frame", false, {4200, 900, 9600, 7800}};
+  Frame GameFrame{"Game Frame", false, {7350, 900, 9600, 7800}};
   GameTable table;
   Label GameLoad{"Process!"};               ///< installs the game set
   Label Label28{"Clear the selected row"};  ///< takes the current row out of the set

@@ -188,7 +188,7 @@ void SelectionPane::choose_game_folder() {
   if (chosen_row > 0) game_.table.select(chosen_row);
   environment_.status.outcome(
       chosen_row > 0
-          ? "\"" + current_selection + "\" stands in row " + std::to_string(chosen_row) + " of the game table"
+          ? "\"" + current_selection + "\" now stands in the game table for \"" + current_group + "\""
           : "Nothing was chosen: the game table has no row for the group \"" + current_group + "\"");
 }
 

@@ -38,6 +38,7 @@ GamePaneView::GamePaneView(Form1& form, const Perform& perform, QWidget* parent)
   frame_->content()->addWidget(table_, 1);
   frame_->content()->addLayout(rows);
   frame_->content()->addLayout(commands);
+  table_->apply();
   table_->fit_columns();
 }
 

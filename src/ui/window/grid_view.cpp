@@ -115,9 +115,7 @@ void GridView::fit_columns() {
   for (int column = 0; column < grid_.columns; ++column) {
     const std::size_t index = static_cast<std::size_t>(column);
     const int given = index < grid_.column_widths.size() ? theme::pixels(grid_.column_widths[index]) : 0;
-    const int header =
-        fontMetrics().horizontalAdvance(QString::fromStdString(grid_.cell(0, column))) + kPadding;
-    setColumnWidth(column, std::max(given, header));
+    setColumnWidth(column, std::max(given, header_width(column)));
   }
 }
 
