@@ -1,12 +1,8 @@
 // Measures building the skin list against `find` over the same tree, its growth, and matching a flight model.
 #include <benchmark/benchmark.h>
 
-#include <algorithm>
-#include <chrono>
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -14,41 +10,15 @@
 #include "menus/menu_editor.h"
 #include "models/flight_model_browser.h"
 #include "models/skin_list.h"
+#include "skin_store.h"
 
 namespace {
 
 using namespace vorlund;
+using namespace vorlund::bench;
 namespace fs = std::filesystem;
 
-constexpr int kFoldersOfGroup = 20;
 constexpr int kRounds = 5;
-
-/// A store of skin folders, 20 to a group, 6 files in each, removed at the end.
-class SkinStore {
- public:
-  explicit SkinStore(int folders)
-      : folder_(fs::temp_directory_path() / ("vorlund skins " + std::to_string(folders))) {
-    fs::remove_all(folder_);
-    for (int index = 0; index < folders; ++index) {
-      const fs::path skin = store() / ("Group " + std::to_string(index / kFoldersOfGroup)) /
-                            ("Skin " + std::to_string(index % kFoldersOfGroup));
-      fs::create_directories(skin);
-      for (const char* name :
-           {"psp09.3dz", "psp09n.3dz", "psp09.tpc", "vcgsp09.dat", "mypic", "contents.txt"}) {
-        std::ofstream(skin / name) << "x";
-      }
-    }
-  }
-  ~SkinStore() { fs::remove_all(folder_); }
-  SkinStore(const SkinStore&) = delete;
-  SkinStore& operator=(const SkinStore&) = delete;
-
-  fs::path store() const { return folder_ / "~Vorlund" / "SkinStore"; }
-  std::string game_directory() const { return folder_.string(); }
-
- private:
-  fs::path folder_;
-};
 
 /// The window object's surroundings over the real disk.
 struct Surroundings {
@@ -61,17 +31,6 @@ struct Surroundings {
 
   explicit Surroundings(const SkinStore& store) { game.Label16.caption = store.game_directory(); }
 };
-
-double seconds_of(const std::function<void()>& work) {
-  const auto start = std::chrono::steady_clock::now();
-  work();
-  return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-}
-
-double median(std::vector<double> values) {
-  std::sort(values.begin(), values.end());
-  return values[values.size() / 2];
-}
 
 void make_list(Surroundings& surroundings) {
   const FileSystem::Action action(*surroundings.files);
@@ -99,8 +58,11 @@ void skin_list_against_find(benchmark::State& state) {
   state.counters["of_find"] = median(list) / median(find);
 }
 BENCHMARK(skin_list_against_find)
-    ->RangeMultiplier(2)
-    ->Range(1000, 16000)
+    ->Arg(1000)
+    ->Arg(2000)
+    ->Arg(4000)
+    ->Arg(8000)
+    ->Arg(16000)
     ->Arg(10000)
     ->Iterations(2 * kRounds + 1)
     ->UseManualTime()
