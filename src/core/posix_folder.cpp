@@ -73,28 +73,35 @@ bool PosixFolder::SameName::operator()(std::string_view a, std::string_view b) c
 PosixFolder::PosixFolder(FileHandle handle, std::string path, Memory memory)
     : handle_(std::move(handle)), path_(std::move(path)), memory_(memory) {}
 
+void PosixFolder::Names::add(std::string_view name) {
+  if (!first.emplace(name).second) further.emplace(name);
+}
+
+bool PosixFolder::remember_names() {
+  if (names_) return true;
+  Names names;
+  if (!read_names([&](std::string_view name) { names.add(name); })) return false;
+  names_ = std::move(names);
+  return true;
+}
+
 std::optional<Spellings> PosixFolder::spellings(std::string_view name) {
   Spellings found;
   const auto take = [&](std::string_view spelling) {
     if (spelling == name) {
       found.exact = true;
-    } else {
+    } else if (same_name(spelling, name)) {
       found.others.emplace_back(spelling);
     }
   };
   if (memory_ == Memory::kFresh) {
-    const bool read = read_names([&](std::string_view spelling) {
-      if (same_name(spelling, name)) take(spelling);
-    });
-    if (!read) return std::nullopt;
+    if (!read_names(take)) return std::nullopt;
   } else {
-    if (!names_) {
-      Names names;
-      if (!read_names([&](std::string_view spelling) { names.emplace(spelling); })) return std::nullopt;
-      names_ = std::move(names);
-    }
-    const auto [first, last] = names_->equal_range(name);
-    std::for_each(first, last, take);
+    if (!remember_names()) return std::nullopt;
+    const auto first = names_->first.find(name);
+    if (first != names_->first.end()) take(*first);
+    const auto [further, last] = names_->further.equal_range(name);
+    std::for_each(further, last, take);
   }
   std::sort(found.others.begin(), found.others.end(),
             [](const auto& a, const auto& b) { return name_less(a, b); });
@@ -113,14 +120,21 @@ std::optional<std::string> PosixFolder::other_spelling(std::string_view name) {
 
 void PosixFolder::name_added(std::string_view name) {
   name_removed(name);
-  if (names_) names_->emplace(name);
+  if (names_) names_->add(name);
 }
 
 void PosixFolder::name_removed(std::string_view name) {
   if (!names_) return;
-  const auto [first, last] = names_->equal_range(name);
-  const auto found = std::find(first, last, name);
-  if (found != last) names_->erase(found);
+  auto& [first, further] = *names_;
+  const auto remembered = first.find(name);
+  if (remembered == first.end()) return;
+  const bool is_first = *remembered == name;
+  const auto [begin, end] = further.equal_range(name);
+  const auto other = is_first ? begin : std::find(begin, end, name);
+  if (is_first) first.erase(remembered);
+  if (other == end) return;
+  if (is_first) first.insert(*other);
+  further.erase(other);
 }
 
 bool PosixFolder::read_names(const std::function<void(std::string_view)>& take) const {

@@ -68,8 +68,15 @@ class PosixFolder {
     using is_transparent = void;
     bool operator()(std::string_view a, std::string_view b) const;
   };
-  using Names = std::unordered_multiset<std::string, HashName, SameName>;
+  struct Names {
+    void add(std::string_view name);
 
+    std::unordered_set<std::string, HashName, SameName> first;  ///< one spelling of each name
+    std::unordered_multiset<std::string, HashName, SameName>
+        further;  ///< the other ones: mostly there are none
+  };
+
+  bool remember_names();
   bool read_names(const std::function<void(std::string_view)>& take) const;
 
   FileHandle handle_;

@@ -32,35 +32,36 @@ PosixTarget::PosixTarget(std::shared_ptr<PosixFolder> folder, std::string name, 
   auto found = folder_->spellings(name_);
   if (!found) fail();
   others_ = std::move(found->others);
-  if (found->exact) {
-    current_ = name_;
-  } else if (!others_.empty()) {
-    current_ = std::move(others_.front());
+  std::string there = name_;
+  if (!found->exact) {
+    if (others_.empty()) return;
+    there = std::move(others_.front());
     others_.erase(others_.begin());
   }
-  if (is_there() && spelling == Spelling::kAsItStands) {
-    name_ = current_;
+  if (spelling == Spelling::kAsItStands) {
+    name_ = there;
     others_.clear();
   }
-  if (is_there()) look();
+  look(there);
 }
 
 PosixTarget::~PosixTarget() {
   if (!neighbour_.empty()) ::unlinkat(folder_->descriptor(), neighbour_.c_str(), 0);
 }
 
-void PosixTarget::look() {
-  existing_ = open_to_read(folder_->descriptor(), current_.c_str(), O_NOFOLLOW);
+void PosixTarget::look(const std::string& spelling) {
+  existing_ = open_to_read(folder_->descriptor(), spelling.c_str(), O_NOFOLLOW);
   const int result = existing_.is_open()
                          ? ::fstat(existing_.descriptor(), &status_)
-                         : ::fstatat(folder_->descriptor(), current_.c_str(), &status_, AT_SYMLINK_NOFOLLOW);
-  if (result != 0 && errno != ENOENT) fail();
-  if (result != 0) current_.clear();
-  if (is_there() && S_ISDIR(status_.st_mode)) {
+                         : ::fstatat(folder_->descriptor(), spelling.c_str(), &status_, AT_SYMLINK_NOFOLLOW);
+  if (result != 0 && errno == ENOENT) return;
+  if (result != 0) fail();
+  if (S_ISDIR(status_.st_mode)) {
     errno = EISDIR;
     fail();
   }
-  if (!is_there() || !S_ISREG(status_.st_mode)) existing_.close();
+  if (!S_ISREG(status_.st_mode)) existing_.close();
+  current_ = spelling;
 }
 
 bool PosixTarget::keep() {

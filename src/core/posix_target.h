@@ -45,7 +45,7 @@ class PosixTarget {
 
  private:
   bool is_there() const { return !current_.empty(); }
-  void look();
+  void look(const std::string& spelling);
   void refuse_read_only_others() const;
   void set_mode(mode_t mode);
   void settle_spelling();

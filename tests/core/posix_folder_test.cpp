@@ -93,5 +93,29 @@ TEST(PosixFolder, SpellingsAreInTheOrderOfListings) {
   }
 }
 
+TEST(PosixFolder, RememberedNamesAreKeptInStep) {
+  const test::TemporaryFolder folder;
+  for (const char* name : {"aB", "Ab", "other"}) folder.write(name, "");
+  PosixFolders folders;
+  folders.remember();
+  const auto opened = folders.open(folder.path());
+  ASSERT_TRUE(opened);
+  using Names = std::vector<std::string>;
+  const auto others = [&] { return opened->spellings("AB")->others; };
+  EXPECT_EQ(others(), (Names{"Ab", "aB"}));
+  opened->name_added("ab");
+  opened->name_added("ab");
+  EXPECT_EQ(others(), (Names{"Ab", "aB", "ab"}));
+  for (const char* removed : {"Ab", "Ab", "nothing"}) opened->name_removed(removed);
+  EXPECT_EQ(others(), (Names{"aB", "ab"}));
+  opened->name_removed("ab");
+  EXPECT_EQ(others(), Names{"aB"});
+  opened->name_removed("aB");
+  EXPECT_EQ(others(), Names());
+  opened->name_added("AB");
+  EXPECT_TRUE(opened->spellings("AB")->exact);
+  EXPECT_EQ(opened->other_spelling("OTHER"), "other");
+}
+
 }  // namespace
 }  // namespace vorlund
