@@ -67,7 +67,8 @@ GameUnderFire::GameUnderFire() {
        patch_record(102, "BBBB") + patch_record(80000, "end") + patch_record(200, "cut").substr(0, 8));
   stand("eaw.exe", old_game);
   for (const std::string& step : {patched, new_game, once}) pass("eaw.exe", step);
-  appear("eaw.exe", twice);
+  // A patch keeps the spelling that the copied executable brought along.
+  appear("EAW.EXE", twice);
 
   // The record in the code page; what follows a second TAB is not kept.
   const std::string rows =

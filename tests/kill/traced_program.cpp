@@ -49,6 +49,11 @@ std::string call_name(const std::string& line) {
   return length < line.size() && line[length] == '(' ? line.substr(0, length) : "";
 }
 
+/// A window also waits for events and wakes itself up, more or less often as the clock has it.
+bool is_about_files(const std::string& name, const std::string& line) {
+  return name != "poll" && name != "ppoll" && line.find("<anon_inode:") == std::string::npos;
+}
+
 Trace read_trace(const std::string& path) {
   Trace trace;
   std::ifstream lines(path);
@@ -59,7 +64,12 @@ Trace read_trace(const std::string& path) {
     const std::string name = call_name(line);
     if (name.empty()) continue;
     if (line.find(kActionHasEnded) != std::string::npos) trace.ended = true;
-    if (!trace.ended) ++(trace.begun ? trace.during : trace.before)[name];
+    trace.last_is_about_files = is_about_files(name, line);
+    if (!trace.begun) {
+      ++trace.before[name];
+    } else if (!trace.ended && trace.last_is_about_files) {
+      ++trace.during[name];
+    }
     if (line.find(kActionBegins) != std::string::npos) trace.begun = true;
   }
   return trace;
@@ -76,7 +86,7 @@ Ending TracedProgram::run(const std::string& folder) const {
 }
 
 Ending TracedProgram::run_traced(const std::string& folder, Trace& trace) const {
-  const Ending ending = run_under_strace(folder, {"-e", "trace=%file,%desc"});
+  const Ending ending = run_under_strace(folder, {"-y", "-e", "trace=%file,%desc"});
   trace = read_trace(trace_file_);
   return ending;
 }
@@ -89,7 +99,7 @@ Ending TracedProgram::run_killed(const std::string& folder, const std::string& c
                                  Trace& trace) const {
   // The marks are watched as well; which of the two calls makes them depends on the processor.
   const Ending ending =
-      run_under_strace(folder, {"-e", "trace=?access,?faccessat," + call, "-e",
+      run_under_strace(folder, {"-y", "-e", "trace=?access,?faccessat," + call, "-e",
                                 "inject=" + call + ":signal=KILL:when=" + std::to_string(number)});
   trace = read_trace(trace_file_);
   return ending;

@@ -18,7 +18,8 @@ struct Trace {
   bool begun = false;                 ///< the action was reached
   bool ended = false;                 ///< and run to its end
   std::map<std::string, int> before;  ///< calls of each name before the action
-  std::map<std::string, int> during;  ///< calls of each name in it
+  std::map<std::string, int> during;  ///< calls of each name in it, those about files
+  bool last_is_about_files = false;   ///< whether the last call was one of these
 };
 
 /// A program that is run inside a folder, off-screen where it has a window.
