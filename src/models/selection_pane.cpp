@@ -86,14 +86,15 @@ void SelectionPane::Label1_Click(int index) {
 void SelectionPane::list_group(const std::string& group) {
   current_group = group;
   SelLab.resize(1);
-  const std::vector<std::string> names =
-      is_plain_name(group) ? list_folders(environment_.files, group_folder()) : std::vector<std::string>();
-  for (std::size_t index = 0; index < names.size(); ++index) {
+  RegionDir.path = group_folder();
+  RegionDir.names.clear();
+  if (is_plain_name(group)) RegionDir.open(environment_.files, RegionDir.path);
+  for (std::size_t index = 0; index < RegionDir.names.size(); ++index) {
     if (index > 0) {
       SelLab.push_back(SelLab.back());
       SelLab.back().place.top += kSelectionStep;
     }
-    SelLab.back().caption = names[index];
+    SelLab.back().caption = RegionDir.names[index];
     SelLab.back().visible = true;
   }
 }

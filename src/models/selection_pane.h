@@ -33,6 +33,7 @@ class SelectionPane {
   std::vector<Label> Label1;  ///< group labels; element 0 always exists
   FolderList Dir1;            ///< groups of the store that is browsed
   FolderList Dir5;            ///< flight-model groups
+  FolderList RegionDir;       ///< folders of the opened group
   std::vector<Label> SelLab;  ///< folders of the opened group; element 0 always exists
 
   Frame Frame3;

@@ -78,7 +78,9 @@ class Form1 {
   Label Label5{"Clean Up"};
   Label Label7{"Minimise"};
   Label ExitButton{"Exit"};
+  Frame InviFrame;      ///< never shown: holds the listings that the program works with
   FileList SavDatFile;  ///< "Default*.msn" in "Savedata"
+  FolderList UtilDir;   ///< beside the other listings; no action needs it
 
   /// What the last action has come to, in plain words.
   const Label& status_line() const { return status_line_; }

@@ -12,6 +12,7 @@
 #include "ui/window/directory_view.h"
 #include "ui/window/game_pane_view.h"
 #include "ui/window/group_labels_view.h"
+#include "ui/window/invisible_frame_view.h"
 #include "ui/window/load_pane_view.h"
 #include "ui/window/menu_editor_view.h"
 #include "ui/window/menu_view.h"
@@ -87,6 +88,7 @@ void MainWindow::add_views() {
   auto* load = add(std::make_unique<LoadPaneView>(*form_, perform, this));
   auto* save = add(std::make_unique<SavePaneView>(*form_, perform, this));
   auto* menu_editor = add(std::make_unique<MenuEditorView>(*form_, perform, this));
+  add(std::make_unique<InvisibleFrameView>(*form_, this));
   frames_ = {{&selection->frame(), &form_->selection.Frame3},
              {&game->frame(), &form_->game.GameFrame},
              {&plane->frame(), &form_->plane.Frame1},
