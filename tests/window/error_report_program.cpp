@@ -32,7 +32,9 @@ void watch_for_reports() {
 Q_COREAPP_STARTUP_FUNCTION(watch_for_reports)
 
 int main(int argc, char** argv) {
+#ifndef Q_OS_WIN
   qputenv("QT_QPA_PLATFORM", "offscreen");
+#endif
   const bool process = argc > 1 && std::string_view(argv[1]) == "process";
   return vorlund::run_application(argc, argv, [&](vorlund::MainWindow& window) {
     for (const char* name : {"WhatsLoaded", "GameLoad"}) {

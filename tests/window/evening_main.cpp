@@ -14,7 +14,9 @@
 int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
   if (qEnvironmentVariableIsEmpty("LC_ALL")) qputenv("LC_ALL", "C");
+#ifndef Q_OS_WIN
   qputenv("QT_QPA_PLATFORM", "offscreen");
+#endif
   QApplication application(argc, argv);
   // Everything that may depend on the locale is made to: the C library, the streams, and Qt.
   std::setlocale(LC_ALL, "");

@@ -21,6 +21,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
+// Made absolute before a test changes the current folder, and with it, on Windows, the current drive.
+const fs::path kMakeSampleGame = fs::absolute(MAKE_SAMPLE_GAME);
 constexpr char kFlightModels[] = "Standard 2.1";
 constexpr char kGameSetName[] = "Evening, game";
 constexpr char kPlaneSetName[] = "Soir\u00E9e, Flugzeuge 1944";
@@ -44,7 +46,8 @@ void make_sample_game(const TemporaryFolder& folder) {
   const char* made = std::getenv("EVENING_SAMPLE");
   if (made != nullptr) {
     fs::copy(fs::path(made), fs::path(folder.path()), fs::copy_options::recursive);
-  } else if (QProcess::execute(MAKE_SAMPLE_GAME, {QString::fromStdString(folder.path())}) != 0) {
+  } else if (QProcess::execute(QString::fromStdU16String(kMakeSampleGame.u16string()),
+                               {QString::fromStdString(folder.path())}) != 0) {
     throw std::runtime_error("the sample game can't be made");
   }
 }

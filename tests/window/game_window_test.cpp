@@ -199,7 +199,7 @@ TEST_F(GameWindow, ATableOfAHundredThousandRowsIsShownAndScrolled) {
 }
 
 TEST_F(GameWindow, DamagedPicturesAreNoReasonToEnd) {
-  store("Sky/Dusk/mypic", std::string("\xFF\xD8\xFF\xE0 no picture at all", 24));
+  store("Sky/Dusk/mypic", std::string("\xFF\xD8\xFF\xE0 no picture at all", 22));
   store("Sky/Dusk/zzz.bmp", "BM");
   folder.write("~Vorlund/SelPic", "neither is this");
   folder.write("~Vorlund/Fr2Pic", std::string(1000, '\xFF'));

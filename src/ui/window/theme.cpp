@@ -38,6 +38,10 @@ constexpr auto kStyleSheet = R"(
 
 void apply_to(QApplication& application) {
   application.setStyle(QStyleFactory::create("Fusion"));
+  // Where the system's own font is not there, as often in Wine, the next best would have serifs.
+  QFont font = QApplication::font();
+  font.setFamilies(font.families() + QStringList{"Segoe UI", "Tahoma", "DejaVu Sans", "Liberation Sans"});
+  QApplication::setFont(font);
   QPalette palette;
   palette.setColor(QPalette::Window, kPanel);
   palette.setColor(QPalette::WindowText, kText);
