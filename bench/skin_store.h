@@ -1,0 +1,55 @@
+// What the benchmarks of the skin list and of start-up share: a store of skins, a stopwatch, and the median.
+#pragma once
+
+#include <algorithm>
+#include <chrono>
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <random>
+#include <string>
+#include <vector>
+
+namespace vorlund::bench {
+
+/// A store of skin folders, 20 to a group, 6 files in each, removed at the end.
+class SkinStore {
+ public:
+  static constexpr int kFoldersOfGroup = 20;
+
+  explicit SkinStore(int folders)
+      : folder_(std::filesystem::temp_directory_path() /
+                ("vorlund skins " + std::to_string(folders) + " " + std::to_string(std::random_device()()))) {
+    for (int index = 0; index < folders; ++index) {
+      const std::filesystem::path skin = store() / ("Group " + std::to_string(index / kFoldersOfGroup)) /
+                                         ("Skin " + std::to_string(index % kFoldersOfGroup));
+      std::filesystem::create_directories(skin);
+      for (const char* name :
+           {"psp09.3dz", "psp09n.3dz", "psp09.tpc", "vcgsp09.dat", "mypic", "contents.txt"}) {
+        std::ofstream(skin / name) << "x";
+      }
+    }
+  }
+  ~SkinStore() { std::filesystem::remove_all(folder_); }
+  SkinStore(const SkinStore&) = delete;
+  SkinStore& operator=(const SkinStore&) = delete;
+
+  std::filesystem::path store() const { return folder_ / "~Vorlund" / "SkinStore"; }
+  std::string game_directory() const { return folder_.string(); }
+
+ private:
+  std::filesystem::path folder_;
+};
+
+inline double seconds_of(const std::function<void()>& work) {
+  const auto start = std::chrono::steady_clock::now();
+  work();
+  return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+}
+
+inline double median(std::vector<double> values) {
+  std::sort(values.begin(), values.end());
+  return values[values.size() / 2];
+}
+
+}  // namespace vorlund::bench
