@@ -12,7 +12,9 @@ namespace {
 /// Attributes that a replaced file hands on.
 constexpr DWORD kKeptAttributes = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_ARCHIVE;
 
-/// Where a rename that changes nothing but case is passed over, the file takes a step over this name.
+/// Where a rename that changes nothing but case is passed over, as by Wine, the file takes a step over this
+/// name. It holds the source's bytes by then: a crash there loses nothing, and the next write in the folder
+/// removes it.
 constexpr std::wstring_view kStep = L"~vorlund-case.bak";
 
 /// The entry that a path names, links not followed; none, with the system's error, when there is none.
@@ -71,7 +73,7 @@ WindowsHandle WindowsTarget::open_to_compare(std::uint64_t size) const {
 
 bool WindowsTarget::keep() {
   const bool as_asked = !spelled_otherwise();
-  if (!as_asked) settle_spelling();
+  settle_spelling();
   return as_asked;
 }
 
@@ -90,6 +92,7 @@ HANDLE WindowsTarget::begin() {
     if (DeleteFileW(neighbour.c_str()) == 0 || !create()) fail();
   }
   neighbour_ = neighbour;
+  DeleteFileW((folder_ + std::wstring(kStep)).c_str());
   return written_.get();
 }
 
@@ -97,10 +100,10 @@ void WindowsTarget::finish(Durability durability) {
   const bool flushed = durability == Durability::kFlushed;
   if (flushed && FlushFileBuffers(written_.get()) == 0) fail();
   if (!written_.close()) fail();
-  settle_spelling();
   const DWORD flags = MOVEFILE_REPLACE_EXISTING | (flushed ? MOVEFILE_WRITE_THROUGH : 0U);
   if (MoveFileExW(neighbour_.c_str(), long_path_.c_str(), flags) == 0) fail();
   neighbour_.clear();
+  settle_spelling();
 }
 
 /// A name found by its short form, "LONGNA~1", is no other spelling and stays.
@@ -111,10 +114,14 @@ bool WindowsTarget::spelled_otherwise() const {
 
 void WindowsTarget::settle_spelling() const {
   if (!spelled_otherwise()) return;
+  const auto spelled_as_asked = [this] {
+    const auto entry = find_entry(long_path_);
+    return entry && entry->cFileName == name_;
+  };
+  if (spelled_as_asked()) return;
   const std::wstring spelled = folder_ + existing_->cFileName;
   if (MoveFileExW(spelled.c_str(), long_path_.c_str(), 0) == 0) fail();
-  const auto renamed = find_entry(long_path_);
-  if (renamed && renamed->cFileName == name_) return;
+  if (spelled_as_asked()) return;
 
   const std::wstring step = folder_ + std::wstring(kStep);
   if (MoveFileExW(spelled.c_str(), step.c_str(), MOVEFILE_REPLACE_EXISTING) == 0) fail();

@@ -40,6 +40,7 @@ class WindowsTarget {
 
  private:
   bool spelled_otherwise() const;
+  /// Spells the file that is in place as asked.
   void settle_spelling() const;
   [[noreturn]] void fail() const;
 
