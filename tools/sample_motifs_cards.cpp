@@ -2,6 +2,7 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <cmath>
+#include <numbers>
 
 #include "sample_aircraft.h"
 #include "sample_motifs.h"
@@ -319,8 +320,8 @@ void paint_wave(QImage& picture, std::uint64_t seed) {
   const int bursts = random.between(2, 6);
   for (int x = 8; x < picture.width() - 6; x += 5) {
     const double t = static_cast<double>(x) / picture.width();
-    const double beat =
-        std::pow(std::abs(std::sin(t * M_PI * bursts)), 0.6) * std::exp(-std::fmod(t * bursts, 1.0) * 1.4);
+    const double beat = std::pow(std::abs(std::sin(t * std::numbers::pi * bursts)), 0.6) *
+                        std::exp(-std::fmod(t * bursts, 1.0) * 1.4);
     const double loud = 8 + 170 * beat * (0.35 + layered_noise(x * 0.09, 3, 3, seed));
     QLinearGradient bar(0, 210 - loud, 0, 210 + loud);
     bar.setColorAt(0, tone.lighter(130));

@@ -1,6 +1,7 @@
 // Motifs on metal panels: dials, sliders and cells of bytes.
 #include <QPainter>
 #include <cmath>
+#include <numbers>
 
 #include "sample_motifs.h"
 #include "sample_random.h"
@@ -64,8 +65,8 @@ void draw_dial(QPainter& painter, QPointF at, double radius, const QColor& ink, 
       painter.setPen(QPen(arc, radius * 0.05, Qt::SolidLine, Qt::FlatCap));
       const double r = radius * 0.93;
       painter.drawArc(QRectF(at.x() - r, at.y() - r, 2 * r, 2 * r),
-                      static_cast<int>(-(from + start) * 2880 / M_PI),
-                      static_cast<int>(-length * 2880 / M_PI));
+                      static_cast<int>(-(from + start) * 2880 / std::numbers::pi),
+                      static_cast<int>(-length * 2880 / std::numbers::pi));
       start += length;
     }
   }

@@ -7,6 +7,7 @@
 #include <atomic>
 #include <cmath>
 #include <future>
+#include <numbers>
 #include <stdexcept>
 #include <thread>
 
@@ -59,7 +60,7 @@ void draw_formation(QImage& picture, std::uint64_t seed) {
                           Shape::kTwin,   Shape::kTwinBoom,   Shape::kHeavy};
   const Shape shape = shapes[random.between(0, 5)];
   const double angle = random.real(-55, 55);
-  const double turn = angle * M_PI / 180;
+  const double turn = angle * std::numbers::pi / 180;
   const double size = shape == Shape::kHeavy ? 200 : 160;
   const QPointF places[] = {{0, -78}, {-150, 48}, {150, 44}, {296, 150}, {-300, 160}};
   for (int k = 0; k < random.between(3, 5); ++k) {
