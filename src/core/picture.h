@@ -24,7 +24,7 @@ struct Picture {
   Place place{};
 };
 
-/// Reads a picture file; one larger than 64 MiB, or one that is not there, gives no picture.
+/// Reads a picture file; one larger than 256 MiB, or one that is not there, gives no picture.
 PictureFile load_picture(FileSystem& files, std::string_view path);
 
 }  // namespace vorlund

@@ -26,12 +26,15 @@ QImage decode(const PictureFile& file, const QSize& size, PictureFit fit) {
   const Qt::AspectRatioMode mode =
       fit == PictureFit::kCover ? Qt::KeepAspectRatioByExpanding : Qt::KeepAspectRatio;
   const QSize natural = reader.size();
-  if (natural.isValid()) {
-    const QSize wanted = natural.scaled(size, mode);
-    if (wanted.width() < natural.width()) reader.setScaledSize(wanted.expandedTo(QSize(1, 1)));
-  }
-  const QImage image = reader.read();
-  return image.isNull() ? image : image.scaled(size, mode, Qt::SmoothTransformation);
+  const QSize wanted = natural.scaled(size, mode).expandedTo(QSize(1, 1));
+  const bool smaller = natural.isValid() && wanted.width() < natural.width();
+  if (smaller && reader.supportsOption(QImageIOHandler::ScaledSize)) reader.setScaledSize(wanted);
+  QImage image = reader.read();
+  if (image.isNull()) return image;
+  // Smooth scaling looks at every pixel; of a picture far larger than shown, four samples for each shown
+  // pixel do.
+  if (image.width() > 4 * wanted.width()) image = image.scaled(2 * wanted);
+  return image.scaled(size, mode, Qt::SmoothTransformation);
 }
 
 }  // namespace
