@@ -227,6 +227,10 @@ CopyOutcome PosixFileSystem::copy_file(std::string_view source_path, std::string
   const PosixSource source = open_source(source_path);
   PosixTarget target = open_target(target_path, Spelling::kAsAsked);
   content_.take(source);
+  if (target.readable() >= 0 && content_.known_same(source, target.readable())) {
+    return target.keep() ? CopyOutcome::kUnchanged : CopyOutcome::kWritten;
+  }
+  target.look();
 
   if (target.readable() >= 0 && target.status().st_size == source.status.st_size) {
     const bool one_file =

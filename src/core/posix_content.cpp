@@ -17,6 +17,7 @@ namespace vorlund {
 namespace {
 
 constexpr std::size_t kBlock = 256 * 1024;
+constexpr std::size_t kBuffer = kBlock + 1;
 constexpr std::size_t kFirstBlock = 4096;
 constexpr std::uint64_t kPulseBytes = 8 << 20;
 
@@ -35,13 +36,27 @@ ssize_t read_at(int descriptor, char* bytes, std::size_t size, std::uint64_t off
 
 }  // namespace
 
+char* PageBlock::bytes(std::size_t size) {
+  if (!bytes_) bytes_.reset(new (kPage) char[size]);
+  return bytes_.get();
+}
+
 void PosixContent::take(const PosixSource& source) {
-  source_buffer_.resize(kBlock);
-  target_buffer_.resize(kBlock);
   whole_source_read_ = false;
   if (source.size() > kBlock) return;
   const std::string_view bytes = source_block(source, 0, static_cast<std::size_t>(source.size()));
   whole_source_read_ = bytes.size() == source.size();
+}
+
+bool PosixContent::known_same(const PosixSource& source, int target) {
+  if (!last_was_same_ || !whole_source_read_ || source.size() == 0) return false;
+  // One byte more is asked for, so that a longer target shows.
+  const auto size = static_cast<std::size_t>(source.size());
+  const ssize_t got = ::pread(target, target_buffer_.bytes(kBuffer), size + 1, 0);
+  const bool same = got == static_cast<ssize_t>(size) &&
+                    std::memcmp(target_buffer_.bytes(kBuffer), source_buffer_.bytes(kBuffer), size) == 0;
+  if (same) worked_through(size);
+  return same;
 }
 
 bool PosixContent::same_as(const PosixSource& source, int target) {
@@ -51,10 +66,11 @@ bool PosixContent::same_as(const PosixSource& source, int target) {
   for (std::uint64_t offset = 0; offset < source.size();) {
     const auto size = static_cast<std::size_t>(std::min<std::uint64_t>(step, source.size() - offset));
     const std::string_view expected = whole_source_read_
-                                          ? std::string_view(source_buffer_.data() + offset, size)
+                                          ? std::string_view(source_buffer_.bytes(kBuffer) + offset, size)
                                           : source_block(source, offset, size);
-    const ssize_t got = read_at(target, target_buffer_.data(), size, offset);
-    if (got != static_cast<ssize_t>(size) || expected != std::string_view(target_buffer_.data(), size)) {
+    const ssize_t got = read_at(target, target_buffer_.bytes(kBuffer), size, offset);
+    if (got != static_cast<ssize_t>(size) ||
+        expected != std::string_view(target_buffer_.bytes(kBuffer), size)) {
       return false;
     }
     worked_through(size);
@@ -67,7 +83,7 @@ bool PosixContent::same_as(const PosixSource& source, int target) {
 
 void PosixContent::write_to(const PosixSource& source, int target, std::string_view target_path) {
   if (whole_source_read_) {
-    const std::string_view bytes(source_buffer_.data(), static_cast<std::size_t>(source.size()));
+    const std::string_view bytes(source_buffer_.bytes(kBuffer), static_cast<std::size_t>(source.size()));
     if (!write_all(target, bytes)) throw_system_error("write", target_path);
     worked_through(bytes.size());
     return;
@@ -78,9 +94,9 @@ void PosixContent::write_to(const PosixSource& source, int target, std::string_v
 
 std::string_view PosixContent::source_block(const PosixSource& source, std::uint64_t offset,
                                             std::size_t size) {
-  const ssize_t got = read_at(source.handle.descriptor(), source_buffer_.data(), size, offset);
+  const ssize_t got = read_at(source.handle.descriptor(), source_buffer_.bytes(kBuffer), size, offset);
   if (got < 0) throw_system_error("read", source.path);
-  return {source_buffer_.data(), static_cast<std::size_t>(got)};
+  return {source_buffer_.bytes(kBuffer), static_cast<std::size_t>(got)};
 }
 
 bool PosixContent::clone(const PosixSource& source, int target) {

@@ -5,10 +5,11 @@
 
 #include <cstdint>
 #include <functional>
+#include <memory>
+#include <new>
 #include <set>
 #include <string_view>
 #include <utility>
-#include <vector>
 
 #include "core/posix_file.h"
 
@@ -23,6 +24,21 @@ struct PosixSource {
   std::uint64_t size() const { return static_cast<std::uint64_t>(status.st_size); }
 };
 
+/// Memory that begins at a page: the kernel copies faster into such.
+class PageBlock {
+ public:
+  /// Memory for `size` bytes, the same size at each call. It is taken at the first one.
+  char* bytes(std::size_t size);
+
+ private:
+  static constexpr std::align_val_t kPage{4096};
+  struct Free {
+    void operator()(char* bytes) const { ::operator delete[](bytes, kPage); }
+  };
+
+  std::unique_ptr<char[], Free> bytes_;
+};
+
 /// Copies files one after the other through buffers that are used again. Functions throw ActionError.
 class PosixContent {
  public:
@@ -31,6 +47,10 @@ class PosixContent {
 
   /// Takes up a source: one that fits into the buffer is read at once.
   void take(const PosixSource& source);
+
+  /// True when the target is known to hold the bytes of the source taken last. Costs one read and is tried
+  /// only where the last files were the same and small: false says nothing.
+  bool known_same(const PosixSource& source, int target);
 
   /// True when the target, which is as long as the source taken last, holds the same bytes.
   bool same_as(const PosixSource& source, int target);
@@ -47,8 +67,8 @@ class PosixContent {
 
   std::function<void()> pulse_;
   std::uint64_t since_pulse_ = 0;
-  std::vector<char> source_buffer_;
-  std::vector<char> target_buffer_;
+  PageBlock source_buffer_;
+  PageBlock target_buffer_;
   bool whole_source_read_ = false;
   bool last_was_same_ = false;                      ///< what the last comparison came to
   std::set<std::pair<dev_t, dev_t>> cannot_clone_;  ///< pairs of disks that have refused to share blocks

@@ -29,7 +29,9 @@ constexpr int kFolderFlags = O_RDONLY | O_DIRECTORY;
 SplitPath split_path(std::string_view path) {
   if (path.empty() || path.find('\0') != std::string_view::npos) return {};
   const auto is_separator = [](char character) { return character == '\\' || character == '/'; };
-  std::string whole = is_separator(path.front()) ? "/" : "";
+  std::string whole;
+  whole.reserve(path.size());
+  if (is_separator(path.front())) whole += '/';
   for (std::size_t at = 0; at < path.size();) {
     if (is_separator(path[at])) {
       ++at;
@@ -49,7 +51,9 @@ SplitPath split_path(std::string_view path) {
   const std::size_t slash = whole.rfind('/');
   if (slash == std::string::npos) return {".", whole.empty() ? "." : whole};
   if (whole.size() == 1) return {"/", "."};
-  return {whole.substr(0, slash == 0 ? 1 : slash), whole.substr(slash + 1)};
+  std::string name = whole.substr(slash + 1);
+  whole.resize(slash == 0 ? 1 : slash);
+  return {std::move(whole), std::move(name)};
 }
 
 std::string join_path(std::string_view folder, std::string_view name) {
@@ -105,6 +109,7 @@ std::optional<Spellings> PosixFolder::spellings(std::string_view name) {
   }
   std::sort(found.others.begin(), found.others.end(),
             [](const auto& a, const auto& b) { return name_less(a, b); });
+  last_as_spelled_ = found.exact && found.others.empty();
   return found;
 }
 

@@ -51,6 +51,10 @@ class PosixFolder {
   /// Every spelling of the name; none, with errno, when the folder can't be read.
   std::optional<Spellings> spellings(std::string_view name);
 
+  /// True where the last name asked for stood there as it was spelled, and no two names of the folder are the
+  /// same but for case. Then a name that can be opened as it is spelled has that one spelling.
+  bool expects_as_spelled() const { return last_as_spelled_ && names_ && names_->further.empty(); }
+
   /// The spelling to use for a name whose exact spelling is not there; none, with errno, when there is no
   /// other one.
   std::optional<std::string> other_spelling(std::string_view name);
@@ -83,6 +87,7 @@ class PosixFolder {
   std::string path_;
   Memory memory_;
   std::optional<Names> names_;
+  bool last_as_spelled_ = false;
 };
 
 /// Finds folders by their paths. Between `remember` and `forget` it keeps the folders used last open, with

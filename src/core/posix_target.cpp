@@ -28,7 +28,23 @@ void refuse_read_only(const struct stat& status, std::string_view attempted, std
 
 PosixTarget::PosixTarget(std::shared_ptr<PosixFolder> folder, std::string name, std::string_view path,
                          Spelling spelling)
-    : folder_(std::move(folder)), name_(std::move(name)), path_(path) {
+    : folder_(std::move(folder)), name_(std::move(name)), path_(path), spelling_(spelling) {
+  if (folder_->expects_as_spelled())
+    existing_ = open_to_read(folder_->descriptor(), name_.c_str(), O_NOFOLLOW);
+  if (!existing_.is_open()) look();
+}
+
+void PosixTarget::look() {
+  if (looked_) return;
+  looked_ = true;
+  if (existing_.is_open()) {
+    look_at(name_);
+  } else {
+    look_for_spellings();
+  }
+}
+
+void PosixTarget::look_for_spellings() {
   auto found = folder_->spellings(name_);
   if (!found) fail();
   others_ = std::move(found->others);
@@ -38,19 +54,21 @@ PosixTarget::PosixTarget(std::shared_ptr<PosixFolder> folder, std::string name, 
     there = std::move(others_.front());
     others_.erase(others_.begin());
   }
-  if (spelling == Spelling::kAsItStands) {
+  if (spelling_ == Spelling::kAsItStands) {
     name_ = there;
     others_.clear();
   }
-  look(there);
+  look_at(there);
 }
 
 PosixTarget::~PosixTarget() {
   if (!neighbour_.empty()) ::unlinkat(folder_->descriptor(), neighbour_.c_str(), 0);
 }
 
-void PosixTarget::look(const std::string& spelling) {
-  existing_ = open_to_read(folder_->descriptor(), spelling.c_str(), O_NOFOLLOW);
+void PosixTarget::look_at(const std::string& spelling) {
+  if (!existing_.is_open()) {
+    existing_ = open_to_read(folder_->descriptor(), spelling.c_str(), O_NOFOLLOW);
+  }
   const int result = existing_.is_open()
                          ? ::fstat(existing_.descriptor(), &status_)
                          : ::fstatat(folder_->descriptor(), spelling.c_str(), &status_, AT_SYMLINK_NOFOLLOW);
@@ -65,7 +83,7 @@ void PosixTarget::look(const std::string& spelling) {
 }
 
 bool PosixTarget::keep() {
-  const bool as_asked = current_ == name_ && others_.empty();
+  const bool as_asked = !looked_ || (current_ == name_ && others_.empty());
   if (!as_asked) {
     refuse_read_only_others();
     settle_spelling();
@@ -74,6 +92,7 @@ bool PosixTarget::keep() {
 }
 
 int PosixTarget::begin() {
+  look();
   if (is_there()) refuse_read_only(status_, "write", path_);
   refuse_read_only_others();
   existing_.close();

@@ -18,8 +18,8 @@ namespace vorlund {
 /// whole until `finish` has put the new one in its place.
 class PosixTarget {
  public:
-  /// Looks up what is there. `path` is the path as the program spells it, for error reports; it outlives
-  /// this.
+  /// Finds the file that is there. `path` is the path as the program spells it, for error reports; it
+  /// outlives this.
   PosixTarget(std::shared_ptr<PosixFolder> folder, std::string name, std::string_view path,
               Spelling spelling);
 
@@ -28,10 +28,14 @@ class PosixTarget {
   PosixTarget(const PosixTarget&) = delete;
   PosixTarget& operator=(const PosixTarget&) = delete;
 
-  /// The regular file that is there, opened for reading; -1 when there is none or it can't be read.
+  /// What is there, opened for reading; -1 when there is nothing or it can't be read. After `look` it is a
+  /// regular file.
   int readable() const { return existing_.descriptor(); }
 
-  /// What is there; meaningful where `readable` is.
+  /// Finds out what it is that is there.
+  void look();
+
+  /// What is there; meaningful after `look`, where `readable` is.
   const struct stat& status() const { return status_; }
 
   /// Keeps the file that is there, spelled as asked. True when it was spelled so and there was no other.
@@ -45,7 +49,8 @@ class PosixTarget {
 
  private:
   bool is_there() const { return !current_.empty(); }
-  void look(const std::string& spelling);
+  void look_at(const std::string& spelling);
+  void look_for_spellings();
   void refuse_read_only_others() const;
   void set_mode(mode_t mode);
   void settle_spelling();
@@ -55,6 +60,8 @@ class PosixTarget {
   std::string name_;
   std::string_view path_;
   std::string neighbour_;
+  Spelling spelling_;
+  bool looked_ = false;
   std::string current_;              ///< spelling of the file that is there, "" when there is none
   std::vector<std::string> others_;  ///< its further spellings
   struct stat status_ {};

@@ -198,6 +198,49 @@ TEST_F(PosixFileSystemTest, AHardLinkToTheSourceIsUnchanged) {
   EXPECT_EQ(copy("source", "target"), CopyOutcome::kUnchanged);
 }
 
+TEST_F(PosixFileSystemTest, AfterFilesThatWereTheSameEveryOtherTargetIsStillSeenForWhatItIs) {
+  const std::string same(30000, 'x');
+  folder_.make_folder("target");
+  for (const char* name :
+       {"1", "2", "3", "different", "folder", "link", "longer", "missing", "renamed", "shorter"}) {
+    folder_.write(std::string("source/") + name, same);
+  }
+  for (const char* name : {"1", "2", "3"}) folder_.write(std::string("target/") + name, same);
+  folder_.write("target/different", same.substr(1) + "y");
+  folder_.make_folder("target/folder");
+  link_to("../source/link", "target/link");
+  folder_.write("target/longer", same + "x");
+  folder_.write("target/Renamed", same);
+  folder_.write("target/shorter", same.substr(1));
+  const FileSystem::Action action(*files_);
+  const auto again = [&](const std::string& name) { return copy("source\\" + name, "target\\" + name); };
+  for (const char* name : {"different", "link", "longer", "missing", "renamed", "shorter"}) {
+    for (const char* unchanged : {"1", "2", "3"})
+      EXPECT_EQ(again(unchanged), CopyOutcome::kUnchanged) << name;
+    EXPECT_EQ(again(name), CopyOutcome::kWritten) << name;
+    EXPECT_EQ(folder_.read(std::string("target/") + name), same) << name;
+    EXPECT_TRUE(S_ISREG(mode_of(std::string("target/") + name))) << name;
+  }
+  EXPECT_EQ(again("1"), CopyOutcome::kUnchanged);
+  EXPECT_EQ(again("2"), CopyOutcome::kUnchanged);
+  EXPECT_THROW(again("folder"), ActionError);
+  EXPECT_EQ(folder_.names("target"),
+            (Names{"1", "2", "3", "different", "folder", "link", "longer", "missing", "renamed", "shorter"}));
+}
+
+TEST_F(PosixFileSystemTest, AfterFilesThatWereTheSameASecondSpellingIsStillSweptAway) {
+  const std::string same(30000, 'x');
+  for (const char* name :
+       {"source/1", "source/2", "source/twin", "target/1", "target/2", "target/twin", "target/TWIN"}) {
+    folder_.write(name, same);
+  }
+  const FileSystem::Action action(*files_);
+  EXPECT_EQ(copy("source\\1", "target\\1"), CopyOutcome::kUnchanged);
+  EXPECT_EQ(copy("source\\2", "target\\2"), CopyOutcome::kUnchanged);
+  EXPECT_EQ(copy("source\\twin", "target\\twin"), CopyOutcome::kWritten);
+  EXPECT_EQ(folder_.names("target"), (Names{"1", "2", "twin"}));
+}
+
 TEST_F(PosixFileSystemTest, APipeIsNeitherReadNorWaitedFor) {
   ASSERT_EQ(::mkfifo(system_path("pipe").c_str(), 0666), 0);
   EXPECT_THROW(files_->read_file(folder_.path("pipe")), ActionError);
