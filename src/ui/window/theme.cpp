@@ -42,6 +42,8 @@ void apply_to(QApplication& application) {
   QFont font = QApplication::font();
   font.setFamilies(font.families() + QStringList{"Segoe UI", "Tahoma", "DejaVu Sans", "Liberation Sans"});
   QApplication::setFont(font);
+  for (const char* kind : {"QAbstractItemView", "QMessageBox", "QTipLabel"})
+    QApplication::setFont(font, kind);
   QPalette palette;
   palette.setColor(QPalette::Window, kPanel);
   palette.setColor(QPalette::WindowText, kText);
