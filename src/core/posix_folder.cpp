@@ -81,6 +81,13 @@ void PosixFolder::Names::add(std::string_view name) {
   if (!first.emplace(name).second) further.emplace(name);
 }
 
+bool PosixFolder::Names::has(std::string_view name) const {
+  const auto found = first.find(name);
+  if (found == first.end()) return false;
+  const auto [begin, end] = further.equal_range(name);
+  return *found == name || std::find(begin, end, name) != end;
+}
+
 bool PosixFolder::remember_names() {
   if (names_) return true;
   Names names;
@@ -124,8 +131,7 @@ std::optional<std::string> PosixFolder::other_spelling(std::string_view name) {
 }
 
 void PosixFolder::name_added(std::string_view name) {
-  name_removed(name);
-  if (names_) names_->add(name);
+  if (names_ && !names_->has(name)) names_->add(name);
 }
 
 void PosixFolder::name_removed(std::string_view name) {

@@ -74,6 +74,7 @@ class PosixFolder {
   };
   struct Names {
     void add(std::string_view name);
+    bool has(std::string_view name) const;
 
     std::unordered_set<std::string, HashName, SameName> first;  ///< one spelling of each name
     std::unordered_multiset<std::string, HashName, SameName>
