@@ -1,16 +1,16 @@
-// Measures the installer of game sets against cp: install_bench FOLDER [Google Benchmark options].
+// Measures the installer of game sets against cp: install_bench FOLDER GROWTH-FILE [Google Benchmark
+// options].
 #include <benchmark/benchmark.h>
 #include <malloc.h>
 
-#include <algorithm>
 #include <cstdio>
 #include <fstream>
-#include <functional>
-#include <iterator>
+#include <memory>
 #include <string>
 #include <vector>
 
 #include "game_install.h"
+#include "measure.h"
 
 namespace vorlund::bench {
 
@@ -30,13 +30,8 @@ struct Result {
 };
 
 std::string folder;
+std::string growth_file;
 std::vector<Result> results;
-
-double median(std::vector<double> values) {
-  std::sort(values.begin(), values.end());
-  const std::size_t middle = values.size() / 2;
-  return values.size() % 2 == 1 ? values[middle] : (values[middle - 1] + values[middle]) / 2;
-}
 
 void report(benchmark::State& state, const Result& result) {
   state.SetIterationTime(result.program);
@@ -56,8 +51,7 @@ struct Comparison {
   double most;
 };
 
-/// Program and cp take turns, each round in the other order. Each round has its own ratio, so that a machine
-/// that is slow for a while is slow for both; the figure is the median of the ratios.
+/// Program and cp take turns, each round in the other order.
 void compare(benchmark::State& state, const Comparison& comparison) {
   for ([[maybe_unused]] auto _ : state) {
     const GameInstall install(folder + "/compared", comparison.files, comparison.bytes);
@@ -76,10 +70,8 @@ void compare(benchmark::State& state, const Comparison& comparison) {
       take_reference();
       if (round % 2 == 1) take_program();
     }
-    std::vector<double> ratios;
-    std::transform(program.begin(), program.end(), reference.begin(), std::back_inserter(ratios),
-                   std::divides());
-    report(state, {comparison.name, median(program), median(reference), median(ratios), comparison.most});
+    report(state, {comparison.name, median(program), median(reference), median_ratio(program, reference),
+                   comparison.most});
   }
 }
 
@@ -88,21 +80,22 @@ void compare(benchmark::State& state, const Comparison& comparison) {
 void grow(benchmark::State& state) {
   constexpr std::uint64_t kBytes = 4096;
   constexpr double kMost = 2.3;
+  const std::vector<int> sizes = {1000, 2000, 4000, 8000, 16000};
   for ([[maybe_unused]] auto _ : state) {
-    double before = 0;
-    for (const std::uint64_t files : {1000U, 2000U, 4000U, 8000U, 16000U}) {
-      const GameInstall install(folder + "/growing", files, kBytes);
-      std::vector<double> program;
-      for (int round = 0; round < kRounds; ++round) {
-        install.prepare_program(Targets::kOthers);
-        program.push_back(install.run_program());
-      }
-      const double now = median(program);
-      if (before > 0) {
-        report(state, {"grow to " + std::to_string(files) + " files", now, before, now / before, kMost});
-      }
-      before = now;
+    std::vector<std::unique_ptr<GameInstall>> installs;
+    for (const int files : sizes) {
+      installs.push_back(std::make_unique<GameInstall>(folder + "/growing " + std::to_string(files),
+                                                       static_cast<std::uint64_t>(files), kBytes));
     }
+    const std::vector<GrowthPoint> points = measure_growth(sizes, kRounds, [&](std::size_t index) {
+      installs[index]->prepare_program(Targets::kOthers);
+      return installs[index]->run_program();
+    });
+    for (std::size_t index = 1; index < points.size(); ++index) {
+      report(state, {"grow to " + std::to_string(points[index].size) + " files", points[index].seconds,
+                     points[index - 1].seconds, points[index].ratio, kMost});
+    }
+    write_growth(growth_file, points);
   }
 }
 
@@ -179,11 +172,12 @@ bool print_results() {
 int main(int argc, char** argv) {
   using namespace vorlund::bench;
   benchmark::Initialize(&argc, argv);
-  if (argc != 2) {
-    std::fprintf(stderr, "usage: install_bench FOLDER [Google Benchmark options]\n");
+  if (argc != 3) {
+    std::fprintf(stderr, "usage: install_bench FOLDER GROWTH-FILE [Google Benchmark options]\n");
     return 2;
   }
   folder = argv[1];
+  growth_file = argv[2];
   add_benchmarks();
   benchmark::RunSpecifiedBenchmarks();
   return print_results() ? 0 : 1;

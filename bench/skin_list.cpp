@@ -1,12 +1,16 @@
-// Measures building the skin list against `find` over the same tree, its growth, and matching a flight model.
+// Measures building the skin list against `find` over the same tree, its growth, and matching a flight model:
+// skin_list_bench GROWTH-FILE [Google Benchmark options].
 #include <benchmark/benchmark.h>
 
+#include <cstdio>
 #include <cstdlib>
 #include <filesystem>
+#include <memory>
 #include <string>
 #include <vector>
 
 #include "core/environment.h"
+#include "measure.h"
 #include "menus/menu_editor.h"
 #include "models/flight_model_browser.h"
 #include "models/skin_list.h"
@@ -19,6 +23,8 @@ using namespace vorlund::bench;
 namespace fs = std::filesystem;
 
 constexpr int kRounds = 5;
+
+std::string growth_file;
 
 /// The window object's surroundings over the real disk.
 struct Surroundings {
@@ -55,18 +61,35 @@ void skin_list_against_find(benchmark::State& state) {
     state.SetIterationTime(list.back());
   }
   state.counters["find_ms"] = 1000 * median(find);
-  state.counters["of_find"] = median(list) / median(find);
+  state.counters["of_find"] = median_ratio(list, find);
 }
 BENCHMARK(skin_list_against_find)
-    ->Arg(1000)
-    ->Arg(2000)
-    ->Arg(4000)
-    ->Arg(8000)
-    ->Arg(16000)
     ->Arg(10000)
     ->Iterations(2 * kRounds + 1)
     ->UseManualTime()
     ->Unit(benchmark::kMillisecond);
+
+/// Ever larger stores: how the time grows with each doubling.
+void skin_list_growth(benchmark::State& state) {
+  const std::vector<int> sizes = {1000, 2000, 4000, 8000, 16000};
+  std::vector<std::unique_ptr<SkinStore>> stores;
+  std::vector<std::unique_ptr<Surroundings>> surroundings;
+  for (const int folders : sizes) {
+    stores.push_back(std::make_unique<SkinStore>(folders));
+    surroundings.push_back(std::make_unique<Surroundings>(*stores.back()));
+    make_list(*surroundings.back());
+  }
+  for ([[maybe_unused]] auto _ : state) {
+    const auto points = measure_growth(sizes, 2 * kRounds + 1, [&](std::size_t index) {
+      return seconds_of([&] { make_list(*surroundings[index]); });
+    });
+    for (const GrowthPoint& point : points) {
+      if (point.ratio > 0) state.counters["to_" + std::to_string(point.size)] = point.ratio;
+    }
+    write_growth(growth_file, points);
+  }
+}
+BENCHMARK(skin_list_growth)->Iterations(1)->Unit(benchmark::kMillisecond);
 
 /// The worst case: no skin's name holds any character of the flight model's.
 void match_flight_model(benchmark::State& state) {
@@ -92,4 +115,13 @@ BENCHMARK(match_flight_model)->Arg(10000)->Iterations(kRounds)->Unit(benchmark::
 
 }  // namespace
 
-BENCHMARK_MAIN();
+int main(int argc, char** argv) {
+  benchmark::Initialize(&argc, argv);
+  if (argc != 2) {
+    std::fprintf(stderr, "usage: skin_list_bench GROWTH-FILE [Google Benchmark options]\n");
+    return 2;
+  }
+  growth_file = argv[1];
+  benchmark::RunSpecifiedBenchmarks();
+  return 0;
+}

@@ -1,14 +1,10 @@
-// What the benchmarks of the skin list and of start-up share: a store of skins, a stopwatch, and the median.
+// A store of skins for the benchmarks of the skin list and of start-up.
 #pragma once
 
-#include <algorithm>
-#include <chrono>
 #include <filesystem>
 #include <fstream>
-#include <functional>
 #include <random>
 #include <string>
-#include <vector>
 
 namespace vorlund::bench {
 
@@ -40,16 +36,5 @@ class SkinStore {
  private:
   std::filesystem::path folder_;
 };
-
-inline double seconds_of(const std::function<void()>& work) {
-  const auto start = std::chrono::steady_clock::now();
-  work();
-  return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-}
-
-inline double median(std::vector<double> values) {
-  std::sort(values.begin(), values.end());
-  return values[values.size() / 2];
-}
 
 }  // namespace vorlund::bench

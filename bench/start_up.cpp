@@ -7,6 +7,7 @@
 #include <cstdio>
 #include <string_view>
 
+#include "measure.h"
 #include "skin_store.h"
 #include "ui/window/application.h"
 #include "ui/window/main_window.h"
@@ -88,7 +89,7 @@ void measure_start_up(const QString& self, const SkinStore& store) {
     reference.push_back(empty);
   }
   std::printf("start-up to the first painted window: %.0f ms, %.2f of an empty window and find (%.0f ms)\n",
-              1000 * median(program), median(program) / median(reference), 1000 * median(reference));
+              1000 * median(program), median_ratio(program, reference), 1000 * median(reference));
   std::printf("memory at rest: %s MiB\n", memory.trimmed().constData());
 }
 

@@ -30,7 +30,7 @@ class MemoryFileSystem : public FileSystem {
   std::vector<std::string> paths() const;
 
  protected:
-  void begin_action(Pulse) override {}
+  void begin_action(Pulse, std::string_view) override {}
   void end_action() override {}
 
  private:

@@ -14,8 +14,6 @@ namespace vorlund {
 
 namespace {
 
-constexpr QSize kWindowSize{1280, 800};
-
 QString text_of(const QWidget& widget) {
   return widget.property("text").toString();
 }
@@ -71,9 +69,9 @@ Tour::Choice Tour::folder_with(const QStringList& groups, const QString& mask, q
   return found;
 }
 
-Tour::Tour(MainWindow& window, const QDir& folder, int& next_number)
+Tour::Tour(MainWindow& window, const QSize& size, const QDir& folder, int& next_number)
     : window_(window), hand_(window), folder_(folder), next_number_(next_number) {
-  window_.resize(kWindowSize);
+  window_.resize(size);
   hand_.wait();
 }
 

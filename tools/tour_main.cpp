@@ -1,14 +1,26 @@
-// Goes through the program's typical use in the current folder: tour SCREENSHOT-FOLDER.
+// Goes through the program's typical use in the current folder: tour SCREENSHOT-FOLDER [WIDTHxHEIGHT].
 #include <QByteArray>
+#include <QSize>
 #include <cstdio>
 #include <exception>
 
 #include "tour.h"
 #include "ui/window/application.h"
 
+namespace {
+
+/// The window's size from a text such as "1280x800"; an invalid size where the text is none.
+QSize size_from(const QString& text) {
+  const QStringList sides = text.split('x');
+  return sides.size() == 2 ? QSize(sides[0].toInt(), sides[1].toInt()) : QSize();
+}
+
+}  // namespace
+
 int main(int argc, char** argv) {
-  if (argc != 2) {
-    std::fprintf(stderr, "usage: tour SCREENSHOT-FOLDER\n");
+  const QSize size = size_from(argc == 3 ? argv[2] : "1280x800");
+  if (argc < 2 || argc > 3 || size.isEmpty()) {
+    std::fprintf(stderr, "usage: tour SCREENSHOT-FOLDER [WIDTHxHEIGHT]\n");
     return 2;
   }
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -19,11 +31,12 @@ int main(int argc, char** argv) {
   }
   int next_number = 1;
   try {
-    const int first = vorlund::run_application(
-        argc, argv, [&](vorlund::MainWindow& window) { vorlund::Tour(window, folder, next_number).use(); });
+    const int first = vorlund::run_application(argc, argv, [&](vorlund::MainWindow& window) {
+      vorlund::Tour(window, size, folder, next_number).use();
+    });
     if (first != 0) return first;
     return vorlund::run_application(argc, argv, [&](vorlund::MainWindow& window) {
-      vorlund::Tour(window, folder, next_number).look_again();
+      vorlund::Tour(window, size, folder, next_number).look_again();
     });
   } catch (const std::exception& error) {
     std::fprintf(stderr, "tour: %s\n", error.what());

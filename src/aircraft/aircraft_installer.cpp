@@ -192,7 +192,8 @@ std::string AircraftSummary::text() const {
 
 AircraftSummary install_aircraft_set(Environment& environment, PlaneTable& table, PilotNames& names,
                                      MenuEditor& menu_editor) {
-  const FileSystem::Action action(environment.files, [&] { environment.status.pulse(); });
+  const FileSystem::Action action(
+      environment.files, [&] { environment.status.pulse(); }, environment.game.path(kStore));
   return Installation(environment, table, names, menu_editor).run();
 }
 

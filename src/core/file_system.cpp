@@ -7,8 +7,8 @@
 
 namespace vorlund {
 
-FileSystem::Action::Action(FileSystem& files, Pulse pulse) : files_(files) {
-  files_.begin_action(std::move(pulse));
+FileSystem::Action::Action(FileSystem& files, Pulse pulse, std::string_view staging) : files_(files) {
+  files_.begin_action(std::move(pulse), staging);
 }
 
 FileSystem::Action::~Action() {

@@ -40,7 +40,8 @@ struct FolderEntry {
 /// Unless said otherwise an operation that fails throws ActionError with the path and the system's text.
 ///
 /// A file is always replaced whole: it is written under the name `neighbour_name(target)` in the target's
-/// folder and renamed, so that a crash leaves the old file or the new one. A failed write leaves the old
+/// folder, or in the one that an Action names for it, and renamed, so that a crash leaves the old file or the
+/// new one. A failed write leaves the old
 /// file. A written file keeps the permissions of the one it replaces, and never follows a symbolic link: the
 /// link itself is replaced. A file marked read-only (no write permission at all, on POSIX) is not replaced or
 /// removed: that is an error. Nothing here ever creates a folder.
@@ -95,11 +96,14 @@ class FileSystem {
 
   /// The span of one action of the program. While it lives the file system may remember the names in the
   /// folders it has read, keeping them in step with what is written through it, so that working through a
-  /// folder of N files costs O(N); and it calls `pulse` at least every 8 MiB of a copied file. Without an
-  /// Action every call asks the disk afresh. Actions do not nest.
+  /// folder of N files costs O(N); and it calls `pulse` at least every 8 MiB of a copied file. Copies may be
+  /// written in `staging`, a small folder, before they are renamed to their place: in a large one each new
+  /// name costs more, and a crash then leaves nothing there. Where that folder is "", can't be written to or
+  /// lies on another disk they are written beside their targets. Without an Action every call asks the disk
+  /// afresh. Actions do not nest.
   class Action {
    public:
-    explicit Action(FileSystem& files, Pulse pulse = {});
+    explicit Action(FileSystem& files, Pulse pulse = {}, std::string_view staging = {});
     ~Action();
     Action(const Action&) = delete;
     Action& operator=(const Action&) = delete;
@@ -110,13 +114,13 @@ class FileSystem {
 
  protected:
   friend class Action;
-  virtual void begin_action(Pulse pulse) = 0;
+  virtual void begin_action(Pulse pulse, std::string_view staging) = 0;
   virtual void end_action() = 0;
 };
 
 /// The bare name under which the content of `target` (a bare name) is written before it is renamed.
-/// One fixed name a folder, ending in ".bak" so that the clean-up sweeps what a crash left; the next write
-/// in the folder takes it over.
+/// One fixed name a folder: the next write there takes over what a crash left. It ends in ".bak" so that in
+/// the game folder the clean-up sweeps it as well.
 std::string_view neighbour_name(std::string_view target);
 
 /// The file system of the platform the program was built for.

@@ -34,7 +34,7 @@ class PosixFileSystem final : public FileSystem {
   void start_program(std::string_view path, std::string_view folder) override;
 
  protected:
-  void begin_action(Pulse pulse) override;
+  void begin_action(Pulse pulse, std::string_view staging) override;
   void end_action() override;
 
  private:
@@ -59,6 +59,7 @@ class PosixFileSystem final : public FileSystem {
 
   PosixFolders folders_;
   PosixContent content_;
+  std::shared_ptr<PosixFolder> staging_;  ///< where copies are written; none: beside their targets
 };
 
 PosixFileSystem::Place PosixFileSystem::place_of(std::string_view path, EntryKind kind) {
@@ -217,7 +218,7 @@ PosixTarget PosixFileSystem::open_target(std::string_view path, Spelling spellin
 
 void PosixFileSystem::replace_file(std::string_view path, std::string_view bytes, Durability durability) {
   PosixTarget target = open_target(path, Spelling::kAsItStands);
-  const int written = target.begin();
+  const int written = target.begin(nullptr);
   if (!write_all(written, bytes)) throw_system_error("write", path);
   target.finish(durability);
 }
@@ -239,8 +240,12 @@ CopyOutcome PosixFileSystem::copy_file(std::string_view source_path, std::string
       return target.keep() ? CopyOutcome::kUnchanged : CopyOutcome::kWritten;
     }
   }
-  content_.write_to(source, target.begin(), target_path);
-  target.finish(durability);
+  content_.write_to(source, target.begin(staging_), target_path);
+  if (!target.finish(durability)) {
+    staging_.reset();
+    content_.write_to(source, target.begin(nullptr), target_path);
+    target.finish(durability);
+  }
   return CopyOutcome::kWritten;
 }
 
@@ -274,13 +279,15 @@ void PosixFileSystem::start_program(std::string_view path, std::string_view fold
   start_detached(command_for(spelled, beginning), start_folder.descriptor(), path);
 }
 
-void PosixFileSystem::begin_action(Pulse pulse) {
+void PosixFileSystem::begin_action(Pulse pulse, std::string_view staging) {
   content_.set_pulse(std::move(pulse));
   folders_.remember();
+  if (!staging.empty()) staging_ = place_of(join_path(staging, neighbour_name("")), EntryKind::kFile).folder;
 }
 
 void PosixFileSystem::end_action() {
   content_.set_pulse({});
+  staging_.reset();
   folders_.forget();
 }
 

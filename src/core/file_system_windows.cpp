@@ -59,7 +59,9 @@ class WindowsFileSystem final : public FileSystem {
 
  protected:
   // Windows finds names in any spelling by itself, so there is nothing to remember during an action.
-  void begin_action(Pulse pulse) override { content_.set_pulse(std::move(pulse)); }
+  /// Copies are written beside their targets: a file moved out of another folder would keep the access rights
+  /// that it inherited there.
+  void begin_action(Pulse pulse, std::string_view) override { content_.set_pulse(std::move(pulse)); }
   void end_action() override { content_.set_pulse({}); }
 
  private:

@@ -62,7 +62,13 @@ void PosixTarget::look_for_spellings() {
 }
 
 PosixTarget::~PosixTarget() {
-  if (!neighbour_.empty()) ::unlinkat(folder_->descriptor(), neighbour_.c_str(), 0);
+  drop();
+}
+
+/// Removes a neighbour that was not put in its place.
+void PosixTarget::drop() {
+  if (!neighbour_.empty()) ::unlinkat(neighbour_folder_->descriptor(), neighbour_.c_str(), 0);
+  neighbour_.clear();
 }
 
 void PosixTarget::look_at(const std::string& spelling) {
@@ -91,26 +97,36 @@ bool PosixTarget::keep() {
   return as_asked;
 }
 
-int PosixTarget::begin() {
+int PosixTarget::begin(const std::shared_ptr<PosixFolder>& staging) {
+  drop();
   look();
   if (is_there()) refuse_read_only(status_, "write", path_);
   refuse_read_only_others();
   existing_.close();
   const bool replaces = is_there() && S_ISREG(status_.st_mode);
   const mode_t mode = replaces ? status_.st_mode & kPermissions : kUsualPermissions;
-  const std::string neighbour(neighbour_name(name_));
-  const auto create = [&] {
-    written_ =
-        open_at(folder_->descriptor(), neighbour.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW, mode);
-    return written_.is_open();
-  };
-  if (!create()) {
-    const bool left_over = errno == EEXIST;
-    if (!left_over || ::unlinkat(folder_->descriptor(), neighbour.c_str(), 0) != 0 || !create()) fail();
-  }
-  neighbour_ = neighbour;
+  if (!(staging && create(staging, mode)) && !create(folder_, mode)) fail();
   if (replaces) set_mode(mode);
   return written_.descriptor();
+}
+
+/// Creates the neighbour in a folder, taking over one that a crash has left there; false, with errno, where
+/// that can't be done.
+bool PosixTarget::create(const std::shared_ptr<PosixFolder>& folder, mode_t mode) {
+  const std::string neighbour(neighbour_name(name_));
+  const auto open_new = [&] {
+    written_ =
+        open_at(folder->descriptor(), neighbour.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW, mode);
+    return written_.is_open();
+  };
+  if (!open_new()) {
+    const bool left_over = errno == EEXIST;
+    if (!left_over || ::unlinkat(folder->descriptor(), neighbour.c_str(), 0) != 0 || !open_new())
+      return false;
+  }
+  neighbour_ = neighbour;
+  neighbour_folder_ = folder;
+  return true;
 }
 
 /// Brings back the permissions that the process's mask has taken from the new file, if any.
@@ -120,19 +136,23 @@ void PosixTarget::set_mode(mode_t mode) {
   if ((status.st_mode & kPermissions) != mode && ::fchmod(written_.descriptor(), mode) != 0) fail();
 }
 
-void PosixTarget::finish(Durability durability) {
+bool PosixTarget::finish(Durability durability) {
   if (durability == Durability::kFlushed && ::fsync(written_.descriptor()) != 0) fail();
   if (!written_.close()) fail();
   settle_spelling();
-  if (::renameat(folder_->descriptor(), neighbour_.c_str(), folder_->descriptor(), name_.c_str()) != 0)
+  if (::renameat(neighbour_folder_->descriptor(), neighbour_.c_str(), folder_->descriptor(), name_.c_str()) !=
+      0) {
+    if (errno == EXDEV && neighbour_folder_ != folder_) return false;
     fail();
-  folder_->name_removed(neighbour_);
+  }
+  neighbour_folder_->name_removed(neighbour_);
   folder_->name_added(name_);
   neighbour_.clear();
   if (durability == Durability::kFlushed) {
     const FileHandle opened = open_at(folder_->descriptor(), ".", O_RDONLY | O_DIRECTORY);
     if (!opened.is_open() || ::fsync(opened.descriptor()) != 0) fail();
   }
+  return true;
 }
 
 void PosixTarget::refuse_read_only_others() const {

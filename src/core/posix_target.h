@@ -41,17 +41,21 @@ class PosixTarget {
   /// Keeps the file that is there, spelled as asked. True when it was spelled so and there was no other.
   bool keep();
 
-  /// Creates the neighbour, and returns it open for writing. An error where the file must not be replaced.
-  int begin();
+  /// Creates the neighbour, and returns it open for writing: in `staging` where that is given and can be
+  /// written to, else beside the file. An error where the file must not be replaced.
+  int begin(const std::shared_ptr<PosixFolder>& staging);
 
-  /// Puts the neighbour in the file's place.
-  void finish(Durability durability);
+  /// Puts the neighbour in the file's place. False where that can't be done from the staging folder, because
+  /// it lies on another disk: then everything is to be written once more, without staging.
+  bool finish(Durability durability);
 
  private:
   bool is_there() const { return !current_.empty(); }
   void look_at(const std::string& spelling);
   void look_for_spellings();
   void refuse_read_only_others() const;
+  bool create(const std::shared_ptr<PosixFolder>& folder, mode_t mode);
+  void drop();
   void set_mode(mode_t mode);
   void settle_spelling();
   [[noreturn]] void fail() const;
@@ -60,6 +64,7 @@ class PosixTarget {
   std::string name_;
   std::string_view path_;
   std::string neighbour_;
+  std::shared_ptr<PosixFolder> neighbour_folder_;
   Spelling spelling_;
   bool looked_ = false;
   std::string current_;              ///< spelling of the file that is there, "" when there is none

@@ -5,6 +5,7 @@
 
 namespace vorlund {
 
+inline constexpr std::string_view kStore = "\\~Vorlund";
 inline constexpr std::string_view kGameStore = "\\~Vorlund\\GameStore";
 inline constexpr std::string_view kCareersStore = "\\~Vorlund\\GameStore\\Careers";
 inline constexpr std::string_view kSkinStore = "\\~Vorlund\\SkinStore";

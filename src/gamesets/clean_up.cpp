@@ -78,7 +78,8 @@ int careers_row(const GameTable& table) {
 }
 
 CleanUpSummary clean_game_directory(Environment& environment, const GameTable& table, FileList& savedata) {
-  const FileSystem::Action action(environment.files, [&] { environment.status.pulse(); });
+  const FileSystem::Action action(
+      environment.files, [&] { environment.status.pulse(); }, environment.game.path(kStore));
   CleanUpSummary summary;
   const std::string kept_pattern = savedata.pattern;
   if (const int row = careers_row(table); row > 0) {

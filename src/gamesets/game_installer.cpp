@@ -127,7 +127,8 @@ std::string GameSetSummary::sentence() const {
 }
 
 GameSetSummary install_game_set(Environment& environment, const GameTable& table) {
-  const FileSystem::Action action(environment.files, [&] { environment.status.pulse(); });
+  const FileSystem::Action action(
+      environment.files, [&] { environment.status.pulse(); }, environment.game.path(kStore));
   return Installation(environment, table).run();
 }
 

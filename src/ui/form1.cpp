@@ -91,6 +91,11 @@ void Form1::Form_Load() {
   environment.status.outcome("Confirm the game folder, then choose from the menu on the left");
 }
 
+void Form1::Label17_Click() {
+  directory.Label17_Click();
+  environment.status.outcome("Choose from the menu on the left");
+}
+
 void Form1::Label_MouseDown(const MouseEvent& event) {
   if (event.button == MouseButton::kRight) drag_.press(event);
 }
@@ -114,6 +119,7 @@ void Form1::Label9_MouseUp(int index, const MouseEvent& event) {
   if (index == 3) {
     selection.remove_group_labels();
     load_pane.open();
+    environment.status.outcome("Choose a game set, an aircraft set, or both");
     return;
   }
   if (event.button != MouseButton::kLeft) return;
@@ -137,6 +143,7 @@ void Form1::open_aircraft_work() {
   browser.DoFM();
   selection.Label41.visible = true;
   labels_.Label2.visible = true;
+  say_next(selection.Dir1, "Choose a group of skins, then a skin");
 }
 
 void Form1::open_game_work() {
@@ -146,12 +153,20 @@ void Form1::open_game_work() {
   game.table.g2update();
   selection.Label41.visible = true;
   labels_.Label2.visible = true;
+  say_next(selection.Dir1, "Choose a group, then one of its folders");
 }
 
 void Form1::open_flight_model_choice() {
   labels_.Label2.caption.clear();
   selection.Dir5.open(environment.files, directory.path(kFlightModels));
   selection.make_group_labels(selection.Dir5.names);
+  say_next(selection.Dir5, "Choose the group that all flight models are taken from");
+}
+
+void Form1::say_next(const FolderList& groups, std::string_view next) {
+  environment.status.outcome(groups.names.empty()
+                                 ? "There is nothing to choose from in \"" + groups.path + "\""
+                                 : std::string(next));
 }
 
 void Form1::Label18_MouseUp(const MouseEvent& event) {

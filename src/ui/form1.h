@@ -107,6 +107,7 @@ class Form1 {
   void WhatsLoaded_Click();
 
   // Handlers whose work crosses panes.
+  void Label17_Click();
   void Label28_Click();
   void Image4_Click();
 
@@ -121,6 +122,9 @@ class Form1 {
   void open_game_work();
   void open_flight_model_choice();
   void start_game();
+
+  /// Says in the status line what to do next, or that the store holds nothing to do it with.
+  void say_next(const FolderList& groups, std::string_view next);
   bool dragged(const MouseEvent& event, Label& label);
 
   Version version_;

@@ -1,5 +1,5 @@
 // Does one action in the current folder without a window: the program that is killed often. The action is
-// "install", of the recorded game set, or "clean-up".
+// "install", of the recorded game set, "install-aircraft", of the recorded aircraft set, or "clean-up".
 #include <cstdio>
 #include <exception>
 #include <string_view>
@@ -10,7 +10,7 @@
 int main(int argc, char** argv) {
   using namespace vorlund;
   const std::string_view action = argc == 2 ? argv[1] : "";
-  if (action != "install" && action != "clean-up") return 2;
+  if (action != "install" && action != "install-aircraft" && action != "clean-up") return 2;
   try {
     const std::unique_ptr<FileSystem> files = make_platform_file_system();
     Status nobody;
@@ -20,6 +20,8 @@ int main(int argc, char** argv) {
     test::mark(test::kActionBegins);
     if (action == "install") {
       form.game.GameLoad_Click();
+    } else if (action == "install-aircraft") {
+      form.plane.Label8_Click();
     } else {
       form.CleanUp();
     }

@@ -4,6 +4,7 @@
 
 #include <iostream>
 
+#include "kill/aircraft_under_fire.h"
 #include "kill/careers_under_fire.h"
 #include "kill/game_under_fire.h"
 #include "kill/traced_program.h"
@@ -25,9 +26,13 @@ std::string difference(const Tree& expected, const Tree& found) {
   return report;
 }
 
-/// An action, and the folder that it is killed in.
+/// A long sweep is shared out among tests that run side by side.
+constexpr int kShares = 4;
+
+/// An action, and the folder that it is killed in. The parameter says which share of the calls is a test's
+/// own.
 template <class Folder>
-class KilledAction : public testing::Test {
+class KilledAction : public testing::TestWithParam<int> {
  protected:
   void SetUp() override {
     if (!TracedProgram::can_trace()) {
@@ -35,23 +40,26 @@ class KilledAction : public testing::Test {
     }
   }
 
-  /// Kills the action at each of its calls, checks what is left, and then does it again.
+  /// Kills the action at each call of this share, checks what is left, and then does it again.
   void kill_at_each_call(const std::string& program_file, const std::string& action) const {
     const TracedProgram program({program_file, action}, traces_.path() + "/trace");
     const Trace trace = undisturbed(program);
     ASSERT_FALSE(trace.during.empty());
+    int calls = 0;
     int kills = 0;
     for (const auto& [call, count] : trace.during) {
       const auto before = trace.before.find(call);
       int offset = before == trace.before.end() ? 0 : before->second;
       for (int number = 1; number <= count; ++number) {
+        if (calls++ % kShares != GetParam()) continue;
         SCOPED_TRACE(call + " number " + std::to_string(number) + " of " + std::to_string(count));
         kill_at(program, call, number, offset);
         if (testing::Test::HasFailure()) return;
         ++kills;
       }
     }
-    std::cout << "killed " << kills << " times, at each call of " << trace.during.size() << " names\n";
+    std::cout << "killed " << kills << " times, at " << calls << " calls of " << trace.during.size()
+              << " names among " << kShares << " tests\n";
     testing::Test::RecordProperty("kills", kills);
   }
 
@@ -100,27 +108,40 @@ class KilledAction : public testing::Test {
 };
 
 using KilledInstall = KilledAction<GameUnderFire>;
+using KilledAircraftInstall = KilledAction<AircraftUnderFire>;
 using KilledCleanUp = KilledAction<CareersUnderFire>;
 
-TEST_F(KilledInstall, LeavesWholeFilesAndIsMadeGoodByTheNextRun) {
+TEST_P(KilledInstall, LeavesWholeFilesAndIsMadeGoodByTheNextRun) {
   kill_at_each_call(HEADLESS_ACTION, "install");
 }
 
-TEST_F(KilledCleanUp, LosesNoCareerSaveAndIsCompletedByTheNextRun) {
+TEST_P(KilledAircraftInstall, LeavesWholeFilesAndIsMadeGoodByTheNextRun) {
+  kill_at_each_call(HEADLESS_ACTION, "install-aircraft");
+}
+
+TEST_P(KilledCleanUp, LosesNoCareerSaveAndIsCompletedByTheNextRun) {
   kill_at_each_call(HEADLESS_ACTION, "clean-up");
 }
 
 #ifdef WINDOW_ACTION
 
-TEST_F(KilledInstall, OfTheRealWindowLeavesWholeFilesAndIsMadeGoodByTheNextRun) {
+TEST_P(KilledInstall, OfTheRealWindowLeavesWholeFilesAndIsMadeGoodByTheNextRun) {
   kill_at_each_call(WINDOW_ACTION, "install");
 }
 
-TEST_F(KilledCleanUp, OfTheRealWindowLosesNoCareerSaveAndIsCompletedByTheNextRun) {
+TEST_P(KilledAircraftInstall, OfTheRealWindowLeavesWholeFilesAndIsMadeGoodByTheNextRun) {
+  kill_at_each_call(WINDOW_ACTION, "install-aircraft");
+}
+
+TEST_P(KilledCleanUp, OfTheRealWindowLosesNoCareerSaveAndIsCompletedByTheNextRun) {
   kill_at_each_call(WINDOW_ACTION, "clean-up");
 }
 
 #endif
+
+INSTANTIATE_TEST_SUITE_P(Shares, KilledInstall, testing::Range(0, kShares));
+INSTANTIATE_TEST_SUITE_P(Shares, KilledAircraftInstall, testing::Range(0, kShares));
+INSTANTIATE_TEST_SUITE_P(Shares, KilledCleanUp, testing::Range(0, kShares));
 
 }  // namespace
 }  // namespace vorlund::test

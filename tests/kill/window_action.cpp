@@ -1,7 +1,9 @@
-// Acts in the current folder by clicks on the real window: "install", of the recorded game set, "clean-up",
-// or "everything": every action of the program that touches files.
+// Acts in the current folder by clicks on the real window: "install", of the recorded game set,
+// "install-aircraft", of the recorded aircraft set, "clean-up", or "everything": every action of the program
+// that touches files.
 #include <cstdio>
 #include <exception>
+#include <set>
 #include <string_view>
 
 #include "hand.h"
@@ -33,9 +35,9 @@ void do_everything(vorlund::Hand& hand) {
 void click(vorlund::MainWindow& window, std::string_view action) {
   vorlund::Hand hand(window);
   if (action == "everything") return do_everything(hand);
-  if (action == "install") hand.click("WhatsLoaded");
+  if (action != "clean-up") hand.click("WhatsLoaded");
   vorlund::test::mark(vorlund::test::kActionBegins);
-  hand.click(action == "install" ? "GameLoad" : "Label5");
+  hand.click(action == "install" ? "GameLoad" : action == "install-aircraft" ? "Label8" : "Label5");
   vorlund::test::mark(vorlund::test::kActionHasEnded);
   hand.click("ExitButton");
 }
@@ -44,7 +46,9 @@ void click(vorlund::MainWindow& window, std::string_view action) {
 
 int main(int argc, char** argv) {
   const std::string_view action = argc == 2 ? argv[1] : "";
-  if (action != "install" && action != "clean-up" && action != "everything") return 2;
+  static const std::set<std::string_view> kActions = {"install", "install-aircraft", "clean-up",
+                                                      "everything"};
+  if (!kActions.contains(action)) return 2;
   try {
     return vorlund::run_application(argc, argv,
                                     [action](vorlund::MainWindow& window) { click(window, action); });

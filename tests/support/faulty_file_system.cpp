@@ -1,6 +1,8 @@
 // Counts operations and fails the one that was asked for.
 #include "support/faulty_file_system.h"
 
+#include <utility>
+
 #include "core/action_error.h"
 
 namespace vorlund::test {
@@ -37,15 +39,28 @@ bool FaultyFileSystem::before(const Operation& operation) {
   if (struck_operation_.empty()) struck_operation_ = operation.text;
   if (operation.effect == Effect::kQuestion) return false;
   failed_ = true;
-  if (fault_.kind != FaultKind::kError) leave_neighbour(operation);
+  if (fault_.kind != FaultKind::kError) leave_half(operation);
   throw ActionError("carry out", operation.text, reason(fault_.kind));
 }
 
-void FaultyFileSystem::leave_neighbour(const Operation& operation) {
-  const std::string bytes =
-      operation.source.empty() ? std::string(operation.bytes) : inner().read_file(operation.source);
+void FaultyFileSystem::begin_action(Pulse pulse, std::string_view staging) {
+#ifndef _WIN32
+  staging_ = staging;
+#endif
+  ForwardingFileSystem::begin_action(std::move(pulse), staging);
+}
+
+void FaultyFileSystem::end_action() {
+  ForwardingFileSystem::end_action();
+  staging_.clear();
+}
+
+void FaultyFileSystem::leave_half(const Operation& operation) {
+  const bool copies = !operation.source.empty();
+  const std::string bytes = copies ? inner().read_file(operation.source) : std::string(operation.bytes);
   const std::size_t name_begin = operation.target.find_last_of("\\/") + 1;
-  std::string neighbour(operation.target.substr(0, name_begin));
+  const bool stages = copies && !staging_.empty();
+  std::string neighbour = stages ? staging_ + "\\" : std::string(operation.target.substr(0, name_begin));
   neighbour += neighbour_name(operation.target.substr(name_begin));
   inner().replace_file(neighbour, std::string_view(bytes).substr(0, bytes.size() / 2), Durability::kCached);
 }

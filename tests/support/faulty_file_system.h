@@ -9,7 +9,7 @@ namespace vorlund::test {
 
 enum class FaultKind {
   kError,       ///< the operation does nothing and fails
-  kShortWrite,  ///< a write puts half of its bytes into the neighbour, leaves it there and fails
+  kShortWrite,  ///< a write puts half of its bytes where it would have written them, and fails
   kDiskFull,    ///< as kShortWrite, and the disk is full
 };
 
@@ -51,10 +51,13 @@ class FaultyFileSystem : public ForwardingFileSystem {
 
  protected:
   bool before(const Operation& operation) override;
+  void begin_action(Pulse pulse, std::string_view staging) override;
+  void end_action() override;
 
  private:
-  void leave_neighbour(const Operation& operation);
+  void leave_half(const Operation& operation);
 
+  std::string staging_;  ///< of the action, where the platform makes use of it
   bool armed_ = false;
   Fault fault_{0};
   int operations_ = 0;

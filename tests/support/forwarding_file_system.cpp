@@ -76,8 +76,8 @@ void ForwardingFileSystem::start_program(std::string_view path, std::string_view
   inner_.start_program(path, folder);
 }
 
-void ForwardingFileSystem::begin_action(Pulse pulse) {
-  inner_action_.emplace(inner_, std::move(pulse));
+void ForwardingFileSystem::begin_action(Pulse pulse, std::string_view staging) {
+  inner_action_.emplace(inner_, std::move(pulse), staging);
 }
 
 void ForwardingFileSystem::end_action() {

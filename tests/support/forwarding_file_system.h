@@ -47,7 +47,7 @@ class ForwardingFileSystem : public FileSystem {
   /// Called before each operation. Returning false makes a question answer no; throwing fails the rest.
   virtual bool before(const Operation&) { return true; }
 
-  void begin_action(Pulse pulse) override;
+  void begin_action(Pulse pulse, std::string_view staging) override;
   void end_action() override;
 
   FileSystem& inner() { return inner_; }

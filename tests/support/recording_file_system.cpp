@@ -18,9 +18,9 @@ bool RecordingFileSystem::before(const Operation& operation) {
   return true;
 }
 
-void RecordingFileSystem::begin_action(Pulse pulse) {
+void RecordingFileSystem::begin_action(Pulse pulse, std::string_view staging) {
   log_.emplace_back("begin action");
-  ForwardingFileSystem::begin_action(std::move(pulse));
+  ForwardingFileSystem::begin_action(std::move(pulse), staging);
 }
 
 void RecordingFileSystem::end_action() {

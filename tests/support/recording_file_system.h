@@ -26,7 +26,7 @@ class RecordingFileSystem : public ForwardingFileSystem {
 
  protected:
   bool before(const Operation& operation) override;
-  void begin_action(Pulse pulse) override;
+  void begin_action(Pulse pulse, std::string_view staging) override;
   void end_action() override;
 
  private:

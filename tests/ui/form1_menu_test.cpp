@@ -53,6 +53,29 @@ TEST_F(Menu, AStoreWithoutGroupsShowsNoGroupLabel) {
   EXPECT_TRUE(shown_groups(*form).empty());
 }
 
+TEST_F(Menu, SaysWhatToDoNext) {
+  folder.make_folder("~Vorlund/SkinStore/RAF");
+  start();
+  EXPECT_EQ(form->status_line().caption, "Confirm the game folder, then choose from the menu on the left");
+  form->Label17_Click();
+  EXPECT_FALSE(form->directory.Label17.visible);
+  EXPECT_EQ(form->status_line().caption, "Choose from the menu on the left");
+  form->Label9_MouseUp(0, left());
+  EXPECT_EQ(form->status_line().caption, "Choose a group of skins, then a skin");
+  form->Label9_MouseUp(1, left());
+  EXPECT_EQ(form->status_line().caption, "Choose a group, then one of its folders");
+  form->Label9_MouseUp(2, left());
+  EXPECT_EQ(form->status_line().caption, "Choose the group that all flight models are taken from");
+  form->Label9_MouseUp(3, left());
+  EXPECT_EQ(form->status_line().caption, "Choose a game set, an aircraft set, or both");
+}
+
+TEST_F(Menu, SaysWhereTheStoreHasNothingToChooseFrom) {
+  start().Label9_MouseUp(0, left());
+  EXPECT_EQ(form->status_line().caption,
+            "There is nothing to choose from in \"" + folder.path("~Vorlund\\SkinStore") + "\"");
+}
+
 TEST_F(Menu, TheTitleVanishesAtTheFirstUse) {
   start();
   EXPECT_TRUE(form->Label6.visible);

@@ -22,7 +22,7 @@ DirectoryView::DirectoryView(Form1& form, const Perform& perform, QWidget* paren
       path_(new QLabel(panel_)),
       folders_(new QListWidget(panel_)) {
   Form1* f = &form_;
-  confirm_->on_release = [f, perform](const MouseEvent&) { perform([&] { f->directory.Label17_Click(); }); };
+  confirm_->on_release = [f, perform](const MouseEvent&) { perform([&] { f->Label17_Click(); }); };
   confirm_->setToolTip("Double click on it then click this label");
   path_->setObjectName("Label16");
   path_->setTextFormat(Qt::PlainText);

@@ -1,0 +1,105 @@
+// Copies that are written in a folder of their own before they are renamed to their place.
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <filesystem>
+
+#include "core/file_system.h"
+#include "support/temporary_folder.h"
+
+namespace vorlund {
+namespace {
+
+using Tree = std::map<std::string, std::string>;
+
+class Staging : public testing::Test {
+ protected:
+  Staging() {
+    folder_.write("Set/a.dat", "new a");
+    folder_.write("Set/b.dat", "new b");
+    folder_.write("Game/A.DAT", "old a");
+    folder_.make_folder("Store");
+  }
+
+  /// Copies both files of the set into the game folder, in one action.
+  void copy_set(const std::string& staging, Durability durability = Durability::kCached) {
+    const FileSystem::Action action(*files_, {}, staging);
+    for (const char* name : {"a.dat", "b.dat"}) {
+      const std::string bare = name;
+      EXPECT_EQ(files_->copy_file(folder_.path("Set\\" + bare), folder_.path("Game\\" + bare), durability),
+                CopyOutcome::kWritten);
+    }
+  }
+
+  /// The game folder and the staging folder as they must be afterwards.
+  void expect_copied(const Tree& others = {{"Store/", ""}}) const {
+    Tree expected = others;
+    expected.insert({{"Set/a.dat", "new a"}, {"Set/b.dat", "new b"}});
+    expected.insert({{"Game/a.dat", "new a"}, {"Game/b.dat", "new b"}});
+    EXPECT_EQ(folder_.tree(), expected);
+  }
+
+  test::TemporaryFolder folder_;
+  std::unique_ptr<FileSystem> files_ = make_platform_file_system();
+  const std::string neighbour_{neighbour_name("any")};
+};
+
+TEST_F(Staging, ACopyIsWrittenInTheStagingFolderAndNotBesideItsTarget) {
+  // A folder of the neighbour's name is in the way of every write beside the target.
+  folder_.make_folder("Game/" + neighbour_);
+  copy_set(folder_.path("STORE"));
+  expect_copied({{"Game/" + neighbour_ + "/", ""}, {"Store/", ""}});
+}
+
+TEST_F(Staging, ACopyThatIsFlushedIsWrittenThereToo) {
+  folder_.make_folder("Game/" + neighbour_);
+  copy_set(folder_.path("Store"), Durability::kFlushed);
+  expect_copied({{"Game/" + neighbour_ + "/", ""}, {"Store/", ""}});
+}
+
+TEST_F(Staging, WhatACrashLeftInTheStagingFolderIsTakenOver) {
+  folder_.write("Store/" + neighbour_, "half of something");
+  copy_set(folder_.path("Store"));
+  expect_copied();
+}
+
+TEST_F(Staging, WhereNothingCanBeWrittenThereACopyIsWrittenBesideItsTarget) {
+  folder_.make_folder("Store/" + neighbour_);
+  copy_set(folder_.path("Store"));
+  expect_copied({{"Store/" + neighbour_ + "/", ""}});
+}
+
+TEST_F(Staging, WhereThereIsNoStagingFolderACopyIsWrittenBesideItsTarget) {
+  copy_set(folder_.path("Missing"));
+  expect_copied();
+}
+
+TEST_F(Staging, AnActionWithoutOneWritesBesideTheTargetAgain) {
+  copy_set(folder_.path("Store"));
+  folder_.write("Set/a.dat", "newer a");
+  folder_.make_folder("Store/" + neighbour_);
+  const FileSystem::Action action(*files_);
+  files_->copy_file(folder_.path("Set\\a.dat"), folder_.path("Game\\a.dat"), Durability::kCached);
+  EXPECT_EQ(folder_.read("Game/a.dat"), "newer a");
+}
+
+TEST_F(Staging, OnAnotherDiskItServesNotAndIsLeftEmpty) {
+  const std::filesystem::path other = "/dev/shm/vorlund staging " + std::to_string(::getpid());
+  std::error_code failure;
+  std::filesystem::create_directory(other, failure);
+  struct stat here {};
+  struct stat there {};
+  if (failure || ::stat(folder_.path().c_str(), &here) != 0 || ::stat(other.c_str(), &there) != 0 ||
+      here.st_dev == there.st_dev) {
+    std::filesystem::remove_all(other, failure);
+    GTEST_SKIP() << "/dev/shm is no other disk here";
+  }
+  copy_set(other.string());
+  expect_copied();
+  EXPECT_TRUE(std::filesystem::is_empty(other));
+  std::filesystem::remove_all(other);
+}
+
+}  // namespace
+}  // namespace vorlund
