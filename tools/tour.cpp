@@ -222,6 +222,12 @@ void Tour::compose_planes(const QString& skin) {
   click_row("List2", static_cast<int>(fitting));
   show("possible-skins", "\"Match skin to selected FM\": the skins that may fit it");
   if (!hand_.sees("Frame1")) click("Label2");
+  click("PictureMenus");
+  show("picture-menus", "\"Picture menus...\": the names in the game's three menus");
+  click("PMenFrame");
+  click("Label14");
+  show("save", "\"Save\": the aircraft set gets a name");
+  click("Label39");
   click("Label8");
   show("aircraft-installed", "The aircraft set is installed");
 }

@@ -10,6 +10,7 @@
 #include "aircraft/plane_codes.h"
 #include "aircraft/planes_data.h"
 #include "core/action_error.h"
+#include "core/patch_file.h"
 #include "core/plain_name.h"
 #include "core/store.h"
 
@@ -91,7 +92,7 @@ class Installation {
 
   void write_names() {
     // Deliberate: without the name file the view is not refreshed either, and what it shows is installed.
-    if (!environment_.files.FileExists(environment_.game.path(kPilotNames))) return;
+    if (!is_there(environment_.files, environment_.game.path(kPilotNames))) return;
     names_.LoadPnames(environment_);
     table_.g1update();
     for (const int row : table_.shown_slots()) {

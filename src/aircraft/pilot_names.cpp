@@ -7,6 +7,7 @@
 #include "aircraft/plane_codes.h"
 #include "core/action_error.h"
 #include "core/code_page.h"
+#include "core/patch_file.h"
 #include "core/store.h"
 #include "core/text.h"
 
@@ -82,7 +83,7 @@ void PilotNames::set_name(int record, std::string name) {
 
 void PilotNames::LoadPnames(const Environment& environment) {
   const std::string path = environment.game.path(kPilotNames);
-  if (!environment.files.FileExists(path)) return;
+  if (!is_there(environment.files, path)) return;
   PNameList.items = parse_pilot_names(environment.files.read_file(path, kLongestRead), path);
   PNameList.selected = -1;
 }

@@ -18,19 +18,17 @@ void PatchedBytes::put(std::size_t offset, std::string_view run) {
   bytes_.replace(offset, run.size(), run);
 }
 
-namespace {
-
-bool certainly_missing(FileSystem& files, std::string_view path) {
+bool is_there(FileSystem& files, std::string_view path) {
+  if (files.FileExists(path)) return true;
   const std::string_view name = bare_name(path);
   const std::vector<FolderEntry> entries = files.entries(path.substr(0, path.size() - name.size()));
-  return std::none_of(entries.begin(), entries.end(),
-                      [&](const FolderEntry& entry) { return same_name(entry.name, name); });
+  return std::any_of(entries.begin(), entries.end(), [&](const FolderEntry& entry) {
+    return entry.kind == EntryKind::kFile && same_name(entry.name, name);
+  });
 }
 
-}  // namespace
-
 void patch_file(FileSystem& files, std::string_view path, const std::function<void(PatchedBytes&)>& patch) {
-  const bool existed = files.FileExists(path) || !certainly_missing(files, path);
+  const bool existed = is_there(files, path);
   PatchedBytes content(existed ? files.read_file(path) : std::string());
   const auto keep = [&] {
     if (!existed || content.changed()) files.replace_file(path, content.bytes(), Durability::kCached);

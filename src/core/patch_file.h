@@ -30,6 +30,11 @@ class PatchedBytes {
   std::string original_;
 };
 
+/// Tells a file that is there from one that is certainly missing: where FileExists says no, the folder is
+/// listed, and failing to list it is an error. To be asked before something is made from a file's content and
+/// written back, since FileExists also says no to a file that can't be seen for the moment.
+bool is_there(FileSystem& files, std::string_view path);
+
 /// Opens the file (an empty one when it does not exist yet), lets `patch` change it, and replaces it whole if
 /// anything changed or the file did not exist. A file that is there but can't be seen is an error: it must
 /// not be mistaken for one that is missing and be made anew. When `patch` throws, what it had written up to

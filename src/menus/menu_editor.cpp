@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "core/code_page.h"
+#include "core/patch_file.h"
 #include "core/store.h"
 #include "core/text.h"
 #include "menus/picture_menu.h"
@@ -57,7 +58,7 @@ void MenuEditor::pmenread() {
   }
   hedlab.caption.clear();
   const std::string path = selected_path();
-  if (!environment_.files.FileExists(path)) return;
+  if (!is_there(environment_.files, path)) return;
   const std::size_t count = entry_count(selected_country());
   const PictureMenu menu =
       parse_picture_menu(environment_.files.read_file(path, picture_menu_limit(count)), count);

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "aircraft/plane_record.h"
+#include "core/patch_file.h"
 #include "core/store.h"
 #include "gamesets/clean_up.h"
 #include "gamesets/game_record.h"
@@ -75,12 +76,12 @@ void Form1::Form_Load() {
   SavDatFile.pattern = "Default*.msn";
   SavDatFile.refresh(files);
   const std::string plane_record = directory.path(kCurrentPlaneSet);
-  if (files.FileExists(plane_record)) {
+  if (is_there(files, plane_record)) {
     read_plane_set(files, plane_record, plane.table);
     WhatsLoaded.visible = true;
   }
   const std::string game_record = directory.path(kCurrentGameSet);
-  if (files.FileExists(game_record)) {
+  if (is_there(files, game_record)) {
     read_game_set(files, game_record, game.table);
     WhatsLoaded.visible = true;
   }
@@ -143,7 +144,7 @@ void Form1::open_aircraft_work() {
   browser.DoFM();
   selection.Label41.visible = true;
   labels_.Label2.visible = true;
-  say_next(selection.Dir1, "Choose a group of skins, then a skin");
+  say_next(selection.Dir1, kSkinStore, "Choose a group of skins, then a skin");
 }
 
 void Form1::open_game_work() {
@@ -153,20 +154,20 @@ void Form1::open_game_work() {
   game.table.g2update();
   selection.Label41.visible = true;
   labels_.Label2.visible = true;
-  say_next(selection.Dir1, "Choose a group, then one of its folders");
+  say_next(selection.Dir1, kGameStore, "Choose a group, then one of its folders");
 }
 
 void Form1::open_flight_model_choice() {
   labels_.Label2.caption.clear();
   selection.Dir5.open(environment.files, directory.path(kFlightModels));
   selection.make_group_labels(selection.Dir5.names);
-  say_next(selection.Dir5, "Choose the group that all flight models are taken from");
+  say_next(selection.Dir5, kFlightModels, "Choose the group that all flight models are taken from");
 }
 
-void Form1::say_next(const FolderList& groups, std::string_view next) {
-  environment.status.outcome(groups.names.empty()
-                                 ? "There is nothing to choose from in \"" + groups.path + "\""
-                                 : std::string(next));
+void Form1::say_next(const FolderList& groups, std::string_view store, std::string_view next) {
+  const std::string folder(store.substr(1));
+  environment.status.outcome(groups.names.empty() ? "There is nothing to choose from in \"" + folder + "\""
+                                                  : std::string(next));
 }
 
 void Form1::Label18_MouseUp(const MouseEvent& event) {

@@ -123,8 +123,8 @@ class Form1 {
   void open_flight_model_choice();
   void start_game();
 
-  /// Says in the status line what to do next, or that the store holds nothing to do it with.
-  void say_next(const FolderList& groups, std::string_view next);
+  /// Says in the status line what to do next, or that the folder of the store holds nothing to do it with.
+  void say_next(const FolderList& groups, std::string_view store, std::string_view next);
   bool dragged(const MouseEvent& event, Label& label);
 
   Version version_;

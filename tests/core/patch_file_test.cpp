@@ -6,6 +6,7 @@
 #include <stdexcept>
 
 #include "core/action_error.h"
+#include "support/faulty_file_system.h"
 #include "support/recording_file_system.h"
 #include "support/temporary_folder.h"
 
@@ -67,6 +68,26 @@ TEST_F(PatchFileTest, AnErrorHalfWayKeepsWhatWasPatchedUpToThere) {
   };
   EXPECT_THROW(patch_file(files_, path_, patch), std::out_of_range);
   EXPECT_EQ(folder_.read("Planes.dat"), "AB23");
+}
+
+TEST_F(PatchFileTest, AFileIsToldFromOneThatIsMissing) {
+  EXPECT_FALSE(is_there(files_, path_));
+  folder_.make_folder("Savedata");
+  EXPECT_FALSE(is_there(files_, folder_.path("Savedata"))) << "a folder is no file";
+  folder_.write("PLANES.DAT", "there");
+  EXPECT_TRUE(is_there(files_, path_));
+}
+
+TEST_F(PatchFileTest, AFileThatCannotBeSeenForTheMomentIsNotTakenForMissing) {
+  test::FaultyFileSystem faulty(*disk_);
+  folder_.write("PLANES.DAT", "0123");
+  faulty.arm({1});
+  EXPECT_TRUE(is_there(faulty, path_));
+  faulty.arm({1, test::FaultKind::kError, test::FaultSpan::kPersistent});
+  EXPECT_THROW(is_there(faulty, path_), ActionError);
+  faulty.arm({1});
+  patch_file(faulty, path_, [](PatchedBytes& bytes) { bytes.put(0, "A"); });
+  EXPECT_EQ(folder_.read("PLANES.DAT"), "A123");
 }
 
 TEST_F(PatchFileTest, AFileThatCannotBeReplacedIsAnError) {

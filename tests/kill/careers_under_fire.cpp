@@ -47,8 +47,8 @@ void CareersUnderFire::save(const std::string& name, const std::string& content)
   saves_[name] = content;
 }
 
-std::string CareersUnderFire::damage(const Tree& found) const {
-  std::string report = FolderUnderFire::damage(found);
+std::string CareersUnderFire::strays(const Tree& found) const {
+  std::string report = FolderUnderFire::strays(found);
   for (const auto& [name, content] : saves_) {
     const auto in_game = found.find("Savedata/" + name);
     const auto at_home = found.find(kHome + name);

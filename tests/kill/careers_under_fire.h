@@ -12,7 +12,7 @@ class CareersUnderFire : public FolderUnderFire {
   CareersUnderFire();
 
   /// Tells also which career saves stand whole neither in "Savedata" nor at home.
-  std::string damage(const Tree& found) const override;
+  std::string strays(const Tree& found) const override;
 
  private:
   void save(const std::string& name, const std::string& content);

@@ -61,16 +61,21 @@ void FolderUnderFire::lay_out(const TemporaryFolder& folder) const {
 }
 
 std::string FolderUnderFire::damage(const Tree& found) const {
+  std::string report = strays(found);
+  for (const auto& [name, content] : found) {
+    const auto steps = steps_.find(lower(name));
+    if (is_neighbour(name) || steps == steps_.end() || steps->second.contains(content)) continue;
+    report += name + " holds " + std::to_string(content.size()) + " bytes, neither the old nor the new; ";
+  }
+  return report;
+}
+
+std::string FolderUnderFire::strays(const Tree& found) const {
   std::string report;
   std::map<std::string, int> spellings;
   for (const auto& [name, content] : found) {
     if (is_neighbour(name) || name.ends_with('/')) continue;
-    const auto steps = steps_.find(lower(name));
-    if (steps == steps_.end()) {
-      report += name + " is new; ";
-    } else if (!steps->second.contains(content)) {
-      report += name + " holds " + std::to_string(content.size()) + " bytes, neither the old nor the new; ";
-    }
+    if (!steps_.contains(lower(name))) report += name + " is new; ";
     if (++spellings[lower(name)] > 1) report += name + " is there under two spellings; ";
   }
   for (const auto& [name, content] : before_) {

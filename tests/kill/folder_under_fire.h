@@ -28,9 +28,13 @@ class FolderUnderFire {
   const Tree& finished() const { return finished_; }
 
   /// What is wrong with a folder in which the action was cut off, "" when nothing is: each file must be
-  /// wholly as before, as after, or as between two steps, under one spelling; nothing else may be there but
-  /// the neighbour of a file that was being written, and only what the action deletes may be gone.
-  virtual std::string damage(const Tree& found) const;
+  /// wholly as before, as after, or as between two steps, and nothing may be wrong with the names.
+  std::string damage(const Tree& found) const;
+
+  /// What is wrong with the names in a folder after the action, even one that has left out a step: each file
+  /// has one spelling; nothing else may be there but the neighbour of a file that was being written, and only
+  /// what the action deletes may be gone.
+  virtual std::string strays(const Tree& found) const;
 
  protected:
   /// The file is there before and after.

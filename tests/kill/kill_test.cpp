@@ -1,5 +1,5 @@
-// The program is killed at its system calls during an action: no file may be left half written, and no career
-// save may be lost.
+// The program is killed at its system calls during an action, or they fail: no file may be left half written,
+// and no career save may be lost.
 #include <gtest/gtest.h>
 
 #include <iostream>
@@ -32,7 +32,7 @@ constexpr int kShares = 4;
 /// An action, and the folder that it is killed in. The parameter says which share of the calls is a test's
 /// own.
 template <class Folder>
-class KilledAction : public testing::TestWithParam<int> {
+class ActionUnderFire : public testing::TestWithParam<int> {
  protected:
   void SetUp() override {
     if (!TracedProgram::can_trace()) {
@@ -45,25 +45,60 @@ class KilledAction : public testing::TestWithParam<int> {
     const TracedProgram program({program_file, action}, traces_.path() + "/trace");
     const Trace trace = undisturbed(program);
     ASSERT_FALSE(trace.during.empty());
+    const int kills = at_each_call(trace, [&](const std::string& call, int number, int& offset) {
+      kill_at(program, call, number, offset);
+    });
+    std::cout << "killed " << kills << " times\n";
+    testing::Test::RecordProperty("kills", kills);
+  }
+
+  /// Lets each call of this share fail, checks what is left, and then does the action again.
+  void fail_each_call(const std::string& program_file, const std::string& action) const {
+    const TracedProgram program({program_file, action}, traces_.path() + "/trace");
+    const Trace trace = undisturbed(program);
+    ASSERT_FALSE(trace.during.empty());
+    int errors = 0;
+    const int failures = at_each_call(trace, [&](const std::string& call, int number, int offset) {
+      for (const char* error : {"EIO", "EINTR"}) {
+        SCOPED_TRACE(error);
+        const TemporaryFolder folder;
+        game_folder_.lay_out(folder);
+        const Ending ending = program.run_failed(folder.path(), call, number + offset, error);
+        ASSERT_TRUE(ending.exit_code == 0 || ending.exit_code == 1);
+        // A question whether something is there never fails: it is answered no, and the step is left out.
+        const bool ended = ending.exit_code == 1;
+        ASSERT_EQ(ended ? game_folder_.damage(folder.tree()) : game_folder_.strays(folder.tree()), "");
+        errors += ending.exit_code;
+        ASSERT_EQ(program.run(folder.path()).exit_code, 0);
+        ASSERT_EQ(difference(game_folder_.finished(), folder.tree()), "");
+      }
+    });
+    std::cout << "failed " << 2 * failures << " times, of which " << errors << " ended the action\n";
+    testing::Test::RecordProperty("failures", 2 * failures);
+    EXPECT_GT(errors, 0);
+  }
+
+ private:
+  /// Hands every call of this share to `act`: its name, its number in the action, and how many calls of the
+  /// name came before. Returns how many there were.
+  template <class Act>
+  int at_each_call(const Trace& trace, Act act) const {
     int calls = 0;
-    int kills = 0;
+    int own = 0;
     for (const auto& [call, count] : trace.during) {
       const auto before = trace.before.find(call);
       int offset = before == trace.before.end() ? 0 : before->second;
       for (int number = 1; number <= count; ++number) {
         if (calls++ % kShares != GetParam()) continue;
         SCOPED_TRACE(call + " number " + std::to_string(number) + " of " + std::to_string(count));
-        kill_at(program, call, number, offset);
-        if (testing::Test::HasFailure()) return;
-        ++kills;
+        act(call, number, offset);
+        if (testing::Test::HasFailure()) return own;
+        ++own;
       }
     }
-    std::cout << "killed " << kills << " times, at " << calls << " calls of " << trace.during.size()
-              << " names among " << kShares << " tests\n";
-    testing::Test::RecordProperty("kills", kills);
+    return own;
   }
 
- private:
   /// Runs the action to its end under strace and checks what it leaves.
   Trace undisturbed(const TracedProgram& program) const {
     const TemporaryFolder folder;
@@ -107,41 +142,54 @@ class KilledAction : public testing::TestWithParam<int> {
   Folder game_folder_;
 };
 
-using KilledInstall = KilledAction<GameUnderFire>;
-using KilledAircraftInstall = KilledAction<AircraftUnderFire>;
-using KilledCleanUp = KilledAction<CareersUnderFire>;
+using InstallUnderFire = ActionUnderFire<GameUnderFire>;
+using AircraftInstallUnderFire = ActionUnderFire<AircraftUnderFire>;
+using CleanUpUnderFire = ActionUnderFire<CareersUnderFire>;
 
-TEST_P(KilledInstall, LeavesWholeFilesAndIsMadeGoodByTheNextRun) {
+TEST_P(InstallUnderFire, KilledLeavesWholeFilesAndIsMadeGoodByTheNextRun) {
   kill_at_each_call(HEADLESS_ACTION, "install");
 }
 
-TEST_P(KilledAircraftInstall, LeavesWholeFilesAndIsMadeGoodByTheNextRun) {
+TEST_P(AircraftInstallUnderFire, KilledLeavesWholeFilesAndIsMadeGoodByTheNextRun) {
   kill_at_each_call(HEADLESS_ACTION, "install-aircraft");
 }
 
-TEST_P(KilledCleanUp, LosesNoCareerSaveAndIsCompletedByTheNextRun) {
+TEST_P(CleanUpUnderFire, KilledLosesNoCareerSaveAndIsCompletedByTheNextRun) {
   kill_at_each_call(HEADLESS_ACTION, "clean-up");
+}
+
+// Calls that fail one by one, as on a disk that goes bad.
+TEST_P(InstallUnderFire, WithAFailingCallLeavesWholeFilesAndIsMadeGoodByTheNextRun) {
+  fail_each_call(HEADLESS_ACTION, "install");
+}
+
+TEST_P(AircraftInstallUnderFire, WithAFailingCallLeavesWholeFilesAndIsMadeGoodByTheNextRun) {
+  fail_each_call(HEADLESS_ACTION, "install-aircraft");
+}
+
+TEST_P(CleanUpUnderFire, WithAFailingCallLosesNoCareerSaveAndIsCompletedByTheNextRun) {
+  fail_each_call(HEADLESS_ACTION, "clean-up");
 }
 
 #ifdef WINDOW_ACTION
 
-TEST_P(KilledInstall, OfTheRealWindowLeavesWholeFilesAndIsMadeGoodByTheNextRun) {
+TEST_P(InstallUnderFire, KilledInTheRealWindowLeavesWholeFilesAndIsMadeGoodByTheNextRun) {
   kill_at_each_call(WINDOW_ACTION, "install");
 }
 
-TEST_P(KilledAircraftInstall, OfTheRealWindowLeavesWholeFilesAndIsMadeGoodByTheNextRun) {
+TEST_P(AircraftInstallUnderFire, KilledInTheRealWindowLeavesWholeFilesAndIsMadeGoodByTheNextRun) {
   kill_at_each_call(WINDOW_ACTION, "install-aircraft");
 }
 
-TEST_P(KilledCleanUp, OfTheRealWindowLosesNoCareerSaveAndIsCompletedByTheNextRun) {
+TEST_P(CleanUpUnderFire, KilledInTheRealWindowLosesNoCareerSaveAndIsCompletedByTheNextRun) {
   kill_at_each_call(WINDOW_ACTION, "clean-up");
 }
 
 #endif
 
-INSTANTIATE_TEST_SUITE_P(Shares, KilledInstall, testing::Range(0, kShares));
-INSTANTIATE_TEST_SUITE_P(Shares, KilledAircraftInstall, testing::Range(0, kShares));
-INSTANTIATE_TEST_SUITE_P(Shares, KilledCleanUp, testing::Range(0, kShares));
+INSTANTIATE_TEST_SUITE_P(Shares, InstallUnderFire, testing::Range(0, kShares));
+INSTANTIATE_TEST_SUITE_P(Shares, AircraftInstallUnderFire, testing::Range(0, kShares));
+INSTANTIATE_TEST_SUITE_P(Shares, CleanUpUnderFire, testing::Range(0, kShares));
 
 }  // namespace
 }  // namespace vorlund::test

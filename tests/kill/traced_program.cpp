@@ -105,6 +105,12 @@ Ending TracedProgram::run_killed(const std::string& folder, const std::string& c
   return ending;
 }
 
+Ending TracedProgram::run_failed(const std::string& folder, const std::string& call, int number,
+                                 const std::string& error) const {
+  return run_under_strace(folder, {"-e", "trace=" + call, "-e",
+                                   "inject=" + call + ":error=" + error + ":when=" + std::to_string(number)});
+}
+
 Ending TracedProgram::run_under_strace(const std::string& folder,
                                        const std::vector<std::string>& options) const {
   std::vector<std::string> command = {"strace", "-f", "-qq", "-o", trace_file_};

@@ -122,7 +122,8 @@ bool ActionLabel::event(QEvent* event) {
 
 void ActionLabel::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  theme::draw_plate(painter, rect(), fill(), hasFocus() ? theme::kAccent : QColor(0, 0, 0, 0));
+  const QColor edge = look_ == Look::kPlate ? theme::kPlateEdge : QColor(0, 0, 0, 0);
+  theme::draw_plate(painter, rect(), fill(), hasFocus() ? theme::kAccent : edge);
   painter.setPen(look_ == Look::kPrimary ? theme::kField : marked() ? text_colour_ : theme::kText);
   painter.setFont(shown_font());
   const QRect area = text_area();

@@ -2,6 +2,7 @@
 #include "ui/window/menu_view.h"
 
 #include <QMouseEvent>
+#include <QPainterPath>
 
 #include "ui/window/theme.h"
 
@@ -27,13 +28,19 @@ class TitleLabel : public QLabel {
   void mouseReleaseEvent(QMouseEvent* event) override {
     if (on_click && rect().contains(event->position().toPoint())) on_click();
   }
+  /// With a dark edge, so that it can be read on any picture.
   void paintEvent(QPaintEvent*) override {
     QPainter painter(this);
-    painter.setPen(QColor(0, 0, 0, 190));
-    painter.drawText(rect().translated(1, 1), Qt::AlignLeft | Qt::AlignVCenter, text());
-    painter.setPen(theme::kText);
-    painter.drawText(rect(), Qt::AlignLeft | Qt::AlignVCenter, text());
+    painter.setRenderHint(QPainter::Antialiasing);
+    QPainterPath letters;
+    const int baseline = (height() + fontMetrics().ascent() - fontMetrics().descent()) / 2;
+    letters.addText(kEdge, baseline, font(), text());
+    painter.strokePath(letters, QPen(theme::kField, 2 * kEdge, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.fillPath(letters, theme::kText);
   }
+
+ private:
+  static constexpr int kEdge = 2;
 };
 
 }  // namespace
@@ -88,11 +95,11 @@ void MenuView::apply() {
     shown.widget->apply(*shown.label);
   }
   title_->setText(QString::fromStdString(form_.Label6.caption));
-  title_->setGeometry(30, 18, title_->sizeHint().width() + 4, title_->sizeHint().height());
+  title_->setGeometry(28, 18, title_->sizeHint().width() + 6, title_->sizeHint().height() + 4);
   title_->setVisible(form_.Label6.visible);
   version_->setText(QString::fromStdString(form_.Label26.caption));
-  version_->setGeometry(31, title_->geometry().bottom() + 4, version_->sizeHint().width() + 4,
-                        version_->sizeHint().height());
+  version_->setGeometry(28, title_->geometry().bottom() + 1, version_->sizeHint().width() + 6,
+                        version_->sizeHint().height() + 4);
   version_->setVisible(form_.Label26.visible);
   show_table_->apply(form_.labels().Label2);
   show_table_->setVisible(form_.labels().Label2.visible && !form_.labels().Label2.caption.empty());
