@@ -65,7 +65,7 @@ class Installation {
 
  private:
   void report(std::string_view file, Stretch stretch, std::size_t index, std::size_t count) const {
-    const double share = count == 0 ? 0 : static_cast<double>(index) / static_cast<double>(count);
+    const double share = static_cast<double>(index) / static_cast<double>(count);
     environment_.status.progress({file, stretch.from + (stretch.to - stretch.from) * share});
   }
 

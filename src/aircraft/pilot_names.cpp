@@ -70,10 +70,10 @@ std::vector<std::string> parse_pilot_names(std::string_view bytes, std::string_v
   return names;
 }
 
-const std::string& PilotNames::name(int record) const {
-  static const std::string kBlank;
+std::string PilotNames::name(int record) const {
   const bool held = record >= 0 && static_cast<std::size_t>(record) < PNameList.items.size();
-  return held ? PNameList.items[static_cast<std::size_t>(record)] : kBlank;
+  if (!held) return {};
+  return PNameList.items[static_cast<std::size_t>(record)];
 }
 
 void PilotNames::set_name(int record, std::string name) {

@@ -29,7 +29,7 @@ class PilotNames {
   ListBox PNameList;  ///< display names by record number, 0 to 29; empty until the file has been read
 
   /// The name of a record; "" for one that the list does not hold.
-  const std::string& name(int record) const;
+  std::string name(int record) const;
 
   /// Sets the name of a record, 0 to 29.
   void set_name(int record, std::string name);

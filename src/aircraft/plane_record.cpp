@@ -26,7 +26,8 @@ std::string compose_plane_set(const PlaneTable& table) {
 void parse_plane_set(std::string_view bytes, PlaneTable& table) {
   const std::string text = decode_text(bytes);
   const std::vector<std::string_view> lines = split_lines(text);
-  table.set_flight_model_group(lines.empty() ? std::string() : std::string(lines.front()));
+  const std::string_view group = lines.empty() ? std::string_view() : lines.front();
+  table.set_flight_model_group(std::string(group));
   table.clear();
   for (std::size_t index = 1; index < lines.size(); ++index) {
     const std::vector<std::string_view> cells = split_cells(lines[index]);

@@ -143,7 +143,7 @@ bool PosixFileSystem::lies_inside(std::string_view folder, std::string_view root
 /// Tells files from folders; a link counts as what it leads to. False for what is neither.
 bool kind_of(int folder, const PosixFolderReader::Entry& entry, EntryKind& kind) {
   auto mode = static_cast<mode_t>(DTTOIF(entry.type));
-  if (entry.type == DT_UNKNOWN || entry.type == DT_LNK) {
+  if (entry.type != DT_REG && entry.type != DT_DIR) {
     struct stat status {};
     if (::fstatat(folder, entry.name, &status, 0) != 0) return false;
     mode = status.st_mode;
@@ -264,12 +264,12 @@ void PosixFileSystem::remove_file(std::string_view path) {
 }
 
 void PosixFileSystem::start_program(std::string_view path, std::string_view folder) {
-  const std::string beginning = read_file(path, 2);
   Place program = place_of(path, EntryKind::kFile);
   struct stat status {};
   const bool found = with_spelling(
       program, [&status](int parent, const char* name) { return ::fstatat(parent, name, &status, 0) == 0; });
   if (!found) throw_system_error("start", path);
+  const std::string beginning = read_file(path, 2);
   std::string spelled = join_path(program.folder->path(), program.name);
   if (spelled.front() != '/') spelled = join_path(current_folder(), spelled);
 

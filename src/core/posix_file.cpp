@@ -13,10 +13,9 @@
 namespace vorlund {
 
 FileHandle& FileHandle::operator=(FileHandle&& other) noexcept {
-  if (this != &other) {
-    close();
-    descriptor_ = other.release();
-  }
+  const int taken = other.release();
+  close();
+  descriptor_ = taken;
   return *this;
 }
 

@@ -58,7 +58,7 @@ SplitPath split_path(std::string_view path) {
 
 std::string join_path(std::string_view folder, std::string_view name) {
   std::string joined(folder);
-  if (joined.empty() || joined.back() != '/') joined += '/';
+  if (joined.back() != '/') joined += '/';
   return joined.append(name);
 }
 
@@ -167,7 +167,7 @@ std::shared_ptr<PosixFolder> PosixFolders::open(const std::string& path) {
   FileHandle handle = open_at(AT_FDCWD, path.c_str(), kFolderFlags);
   if (handle.is_open()) return keep(path, std::move(handle), path);
   const SplitPath parts = split_path(path);
-  if (errno != ENOENT || parts.name == "." || parts.name.empty()) return nullptr;
+  if (errno != ENOENT || parts.name == ".") return nullptr;
 
   const auto parent = open(parts.folder);
   if (!parent) return nullptr;

@@ -25,7 +25,7 @@ struct SplitPath {
 /// Takes a path of the program apart. A path that no file can have (empty, with a NUL) gives an empty name.
 SplitPath split_path(std::string_view path);
 
-/// The folder and the name joined again.
+/// The folder, which is not "", and the name joined again.
 std::string join_path(std::string_view folder, std::string_view name);
 
 /// The names in a folder that are the wanted one without regard to case.

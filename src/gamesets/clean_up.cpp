@@ -28,16 +28,18 @@ constexpr std::array<std::string_view, 4> kSpared = {"DSG.ICO", "EXTRA.SPT", "CH
 /// link: players keep large stores on another disk.
 std::string careers_home(Environment& environment, const std::string& name) {
   const std::string home = environment.game.path(kCareersStore) + "\\" + name;
-  const auto refuse = [&home](std::string_view why) {
-    throw ActionError("bring the career saves home to", home, std::string(why) + "; no save was moved");
+  const auto refused = [&home](const char* why) {
+    return ActionError("bring the career saves home to", home, std::string(why) + "; no save was moved");
   };
   const bool group_itself = name.empty();  // a cleared careers row names the folder of the group
   const bool named = group_itself || is_plain_name(name);
-  if (!named || !environment.files.FolderExists(home)) refuse("there is no such folder");
-  if (!environment.files.lies_inside(home, environment.game.path(kGameStore)))
-    refuse("it leads out of the store");
-  if (environment.files.lies_inside(home, environment.game.path(kSavedata)))
-    refuse("it leads to \"Savedata\"");
+  if (!named || !environment.files.FolderExists(home)) throw refused("there is no such folder");
+  if (!environment.files.lies_inside(home, environment.game.path(kGameStore))) {
+    throw refused("it leads out of the store");
+  }
+  if (environment.files.lies_inside(home, environment.game.path(kSavedata))) {
+    throw refused("it leads to \"Savedata\"");
+  }
   return home;
 }
 

@@ -61,9 +61,8 @@ class Installation {
       case SetFileUse::kPatch:
         patch(source);
         break;
-      case SetFileUse::kStays:
+      default:
         ++summary_.kept;
-        break;
     }
   }
 

@@ -1,7 +1,7 @@
 // State and events of the menu editor pane.
 #include "menus/menu_editor.h"
 
-#include <charconv>
+#include <algorithm>
 #include <utility>
 
 #include "core/code_page.h"
@@ -32,13 +32,10 @@ std::string byte_numbers(std::string_view bytes) {
 
 }  // namespace
 
-MenuEditor::MenuEditor(Environment& environment) : environment_(environment) {}
-
 std::size_t MenuEditor::selected_country() const {
-  for (std::size_t country = 0; country < CountryBut.size(); ++country) {
-    if (CountryBut[country].checked) return country;
-  }
-  return 0;
+  const auto checked = [](const Choice& button) { return button.checked; };
+  const auto selected = std::find_if(CountryBut.begin() + 1, CountryBut.end(), checked);
+  return selected == CountryBut.end() ? 0 : static_cast<std::size_t>(selected - CountryBut.begin());
 }
 
 std::string MenuEditor::selected_path() const {

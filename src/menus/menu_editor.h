@@ -16,7 +16,7 @@ class MenuEditor {
   static constexpr std::size_t kEntries = 11;       ///< the German file has 11 entries, the others 9
   static constexpr std::size_t kLongestName = 254;  ///< characters; the length byte counts one more
 
-  explicit MenuEditor(Environment& environment);
+  explicit MenuEditor(Environment& environment) : environment_(environment) {}
 
   Frame PMenFrame{"PMenFrame", false, {4200, 900, 13500, 7650}};
   Frame MnuFrame{"Select Picplnb, Picplna, or Picplng.mnu to read/edit", true, {300, 300, 6000, 900}};

@@ -59,8 +59,9 @@ std::vector<std::string> skins_for_slot(std::string_view list, std::string_view 
   std::vector<std::string> skins;
   for (const std::string_view line : split_lines(list)) {
     const std::size_t length = character_count(line);
-    if (length <= kTailLength || to_upper(last_characters(line, kCodeLength)) != slot) continue;
-    skins.push_back(characters(line, 0, length - kTailLength));
+    if (length <= kTailLength) continue;
+    const std::string code = to_upper(last_characters(line, kCodeLength));
+    if (code == slot) skins.push_back(characters(line, 0, length - kTailLength));
   }
   return skins;
 }

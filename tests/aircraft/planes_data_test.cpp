@@ -177,10 +177,12 @@ TEST_F(PlanesData, NegativeFuelIsAnOverflow) {
 }
 
 TEST_F(PlanesData, FuelThatSixteenBitsCannotHoldEndsBeforeAnythingIsWritten) {
-  table.G1.set_cell(1, PlaneTable::kFuel, "32768");
   model("Spit9/spit.oaw", Values().text());
-  EXPECT_NE(error().find("overflow: \"32768\""), std::string::npos);
-  EXPECT_FALSE(folder.has("Planes.dat"));
+  for (const std::string fuel : {"32768", "-32769"}) {
+    table.G1.set_cell(1, PlaneTable::kFuel, fuel);
+    EXPECT_NE(error().find("overflow: \"" + fuel + "\""), std::string::npos);
+    EXPECT_FALSE(folder.has("Planes.dat"));
+  }
 }
 
 TEST_F(PlanesData, ValuesAreRoundedToTheNearestAndHalvesToTheEvenByte) {

@@ -4,7 +4,6 @@
 #include <sys/inotify.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -270,6 +269,27 @@ TEST_F(PosixFileSystemTest, AReadOnlyFileIsNeitherReplacedNorRemoved) {
   EXPECT_EQ(copy("equal", "Target"), CopyOutcome::kUnchanged);
 }
 
+TEST_F(PosixFileSystemTest, AFileThatWentAwayDuringAnActionIsWrittenAnew) {
+  folder_.write("source", "new");
+  folder_.write("Game/one", "old");
+  folder_.write("Game/TWO", "old");
+  const FileSystem::Action action(*files_);
+  EXPECT_TRUE(files_->FileExists(folder_.path("Game\\ONE"))) << "the names are remembered now";
+  ASSERT_EQ(::unlink(system_path("Game/one").c_str()), 0);
+  ASSERT_EQ(::unlink(system_path("Game/TWO").c_str()), 0);
+  EXPECT_EQ(copy("source", "Game\\one"), CopyOutcome::kWritten);
+  EXPECT_EQ(copy("source", "Game\\two"), CopyOutcome::kWritten);
+  EXPECT_EQ(folder_.tree(), (Tree{{"Game/one", "new"}, {"Game/two", "new"}, {"source", "new"}}));
+}
+
+TEST_F(PosixFileSystemTest, AFolderOfTheSameNameInAnotherSpellingStaysBesideACopy) {
+  folder_.write("source", "new");
+  folder_.write("file", "old");
+  folder_.make_folder("FILE");
+  EXPECT_EQ(copy("source", "file"), CopyOutcome::kWritten);
+  EXPECT_EQ(folder_.tree(), (Tree{{"FILE/", ""}, {"file", "new"}, {"source", "new"}}));
+}
+
 TEST_F(PosixFileSystemTest, AReadOnlyFileOfAnotherSpellingIsNotSweptAway) {
   folder_.write("source", "new");
   folder_.write("target", "old");
@@ -332,22 +352,6 @@ TEST_F(PosixFileSystemTest, AWriteThatTheDiskCutsShortLeavesTheOldFileWhole) {
   }
 }
 
-TEST_F(PosixFileSystemTest, FilesCopyFromOneDiskToAnother) {
-  const std::string other_disk = "/dev/shm";
-  struct stat here {};
-  struct stat there {};
-  ASSERT_EQ(::stat(folder_.path().c_str(), &here), 0);
-  if (::stat(other_disk.c_str(), &there) != 0 || here.st_dev == there.st_dev)
-    GTEST_SKIP() << "there is one disk only";
-
-  const std::string source = other_disk + "/vorlund cross-disk test " + std::to_string(::getpid());
-  const std::string bytes(3'000'000, 'x');
-  files_->replace_file(source, bytes, Durability::kCached);
-  EXPECT_EQ(files_->copy_file(source, folder_.path("copy"), Durability::kCached), CopyOutcome::kWritten);
-  files_->remove_file(source);
-  EXPECT_TRUE(folder_.read("copy") == bytes);
-}
-
 TEST_F(PosixFileSystemTest, ACurrentFolderThatIsGoneIsAnError) {
   const std::filesystem::path before = std::filesystem::current_path();
   folder_.make_folder("gone");
@@ -355,6 +359,16 @@ TEST_F(PosixFileSystemTest, ACurrentFolderThatIsGoneIsAnError) {
   EXPECT_EQ(files_->current_folder(), system_path("gone"));
   ASSERT_EQ(::rmdir(system_path("gone").c_str()), 0);
   EXPECT_THROW(files_->current_folder(), ActionError);
+  std::filesystem::current_path(before);
+}
+
+TEST_F(PosixFileSystemTest, ACurrentFolderOfAnyLengthIsTold) {
+  const std::filesystem::path before = std::filesystem::current_path();
+  std::string deep = "Deep";
+  for (int level = 0; level < 5; ++level) deep += "/" + std::string(100, 'd');
+  folder_.make_folder(deep);
+  std::filesystem::current_path(system_path(deep));
+  EXPECT_EQ(files_->current_folder(), system_path(deep));
   std::filesystem::current_path(before);
 }
 
@@ -436,63 +450,6 @@ TEST_F(PosixFileSystemTest, AnActionReadsTheNamesOfEachFolderOnce) {
   copy("Set\\FILE 0", "Game\\File 0");
   EXPECT_EQ(set.count(), 2) << "nothing is remembered after the action";
   EXPECT_EQ(game.count(), 2);
-}
-
-class StartProgramTest : public PosixFileSystemTest {
- protected:
-  StartProgramTest() { folder_.make_folder("Game"); }
-  ~StartProgramTest() override { ::setenv("PATH", path_before_.c_str(), 1); }
-
-  /// Makes an executable script; it works in the folder where it is started.
-  void make_script(const std::string& name, const std::string& commands) {
-    folder_.write(name, "#!/bin/sh\n" + commands + "\n");
-    ASSERT_EQ(::chmod(system_path(name).c_str(), 0755), 0);
-  }
-
-  /// Content of a file that the started program makes, "" when it is not there after ten seconds.
-  std::string awaited(const std::string& name) {
-    for (int round = 0; round < 1000 && !folder_.has(name); ++round) ::usleep(10'000);
-    return folder_.has(name) ? folder_.read(name) : "";
-  }
-
-  std::string path_before_ = std::getenv("PATH");
-};
-
-TEST_F(StartProgramTest, AProgramRunsDetachedInItsFolder) {
-  make_script("Game/Fly", "pwd > started; sleep 0.2; mv started done");
-  files_->start_program(folder_.path("GAME\\fly"), folder_.path("game"));
-  errno = 0;
-  EXPECT_EQ(::waitpid(-1, nullptr, WNOHANG), -1);
-  EXPECT_EQ(errno, ECHILD);
-  EXPECT_EQ(awaited("Game/done"), system_path("Game") + "\n");
-}
-
-TEST_F(StartProgramTest, AWindowsProgramIsStartedThroughWine) {
-  folder_.write("Game/EAW.EXE", "MZ\x90");
-  make_script("bin/wine", "printf '%s|%s|%s' \"$#\" \"$1\" \"$(pwd)\" > started && mv started done");
-  ::setenv("PATH", (system_path("bin") + ":/usr/bin:/bin").c_str(), 1);
-  files_->start_program(folder_.path("game\\eaw.exe"), folder_.path("game"));
-  EXPECT_EQ(awaited("Game/done"), "1|" + system_path("Game/EAW.EXE") + "|" + system_path("Game"));
-}
-
-TEST_F(StartProgramTest, WithoutWineTheErrorSaysWhatIsMissing) {
-  folder_.write("Game/eaw.exe", "MZ\x90");
-  ::setenv("PATH", system_path("bin").c_str(), 1);
-  try {
-    files_->start_program(folder_.path("Game\\eaw.exe"), folder_.path("Game"));
-    ADD_FAILURE() << "no error";
-  } catch (const ActionError& error) {
-    EXPECT_EQ(error.reason(), "Wine is missing, which is needed to start a Windows program");
-  }
-}
-
-TEST_F(StartProgramTest, AProgramThatTheSystemRefusesIsAnError) {
-  folder_.write("Game/eaw.exe", "neither a program nor a script");
-  EXPECT_THROW(files_->start_program(folder_.path("Game\\eaw.exe"), folder_.path("Game")), ActionError);
-  ASSERT_EQ(::chmod(system_path("Game/eaw.exe").c_str(), 0755), 0);
-  EXPECT_THROW(files_->start_program(folder_.path("Game\\eaw.exe"), folder_.path("Game")), ActionError);
-  make_script("Game/fly", "exit 0");
-  EXPECT_THROW(files_->start_program(folder_.path("Game\\fly"), folder_.path("nothing")), ActionError);
 }
 
 }  // namespace

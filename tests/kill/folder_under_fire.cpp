@@ -1,6 +1,7 @@
 // Tells whole files from halves, and what may be there from what may not.
 #include "kill/folder_under_fire.h"
 
+#include <filesystem>
 #include <string_view>
 
 #include "core/file_system.h"
@@ -56,8 +57,19 @@ void FolderUnderFire::go(const std::string& name, const std::string& content) {
   may_go_.insert(lower(name));
 }
 
+void FolderUnderFire::stand_too(const std::string& name, const std::string& content) {
+  stand(name, content);
+  may_be_twice_.insert(lower(name));
+}
+
 void FolderUnderFire::lay_out(const TemporaryFolder& folder) const {
-  for (const auto& [name, content] : before_) folder.write(name, content);
+  using std::filesystem::perms;
+  for (const auto& [name, content] : before_) {
+    folder.write(name, content);
+    std::filesystem::permissions(std::filesystem::path(folder.path()) / name,
+                                 perms::group_write | perms::others_write,
+                                 std::filesystem::perm_options::add);
+  }
 }
 
 std::string FolderUnderFire::damage(const Tree& found) const {
@@ -76,7 +88,8 @@ std::string FolderUnderFire::strays(const Tree& found) const {
   for (const auto& [name, content] : found) {
     if (is_neighbour(name) || name.ends_with('/')) continue;
     if (!steps_.contains(lower(name))) report += name + " is new; ";
-    if (++spellings[lower(name)] > 1) report += name + " is there under two spellings; ";
+    if (++spellings[lower(name)] > (may_be_twice_.contains(lower(name)) ? 2 : 1))
+      report += name + " is there under two spellings; ";
   }
   for (const auto& [name, content] : before_) {
     if (!spellings.contains(lower(name)) && !may_go_.contains(lower(name))) report += name + " is gone; ";

@@ -21,7 +21,8 @@ class FolderUnderFire {
  public:
   virtual ~FolderUnderFire() = default;
 
-  /// Lays the game folder out as it is before the action.
+  /// Lays the game folder out as it is before the action. Everybody may write to the files, which new ones
+  /// have to be given.
   void lay_out(const TemporaryFolder& folder) const;
 
   /// What the folder holds after the action.
@@ -44,6 +45,8 @@ class FolderUnderFire {
   void appear(const std::string& name, const std::string& content);
   /// The file may hold this between two steps.
   void pass(const std::string& name, const std::string& content);
+  /// A further spelling of a file that is there before.
+  void stand_too(const std::string& name, const std::string& content);
   /// The file is there before and deleted by the action.
   void go(const std::string& name, const std::string& content);
 
@@ -52,6 +55,7 @@ class FolderUnderFire {
   Tree finished_;
   std::map<std::string, std::set<std::string>> steps_;  ///< contents a file may have, by its lower-case name
   std::set<std::string> may_go_;
+  std::set<std::string> may_be_twice_;
 };
 
 }  // namespace vorlund::test

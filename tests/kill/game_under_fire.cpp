@@ -31,7 +31,7 @@ std::string with(std::string content, std::size_t offset, const std::string& byt
 
 GameUnderFire::GameUnderFire() {
   const std::string careers = "Careers/\u00C9t\u00E9 1940/"s;
-  const std::string scenery = "Scenery/W\u00FCste im Winter/"s;
+  const std::string scenery = "SCENERY/W\u00FCste im Winter/"s;  // the record has it as "Scenery"
 
   stay("readme.txt", "Read me first\r\n");
   stay("Savedata/Default1.msn", made_bytes(1, 900));
@@ -44,6 +44,9 @@ GameUnderFire::GameUnderFire() {
           made_bytes(6, 9000));
   stay(kStore + scenery + "planes.dat", made_bytes(8, 8000));
   pass("planes.dat", made_bytes(8, 8000));
+  go("~Vorlund/~vorlund.bak", made_bytes(19, 400));  // what an earlier crash has left
+  go("~vorlund.bak", made_bytes(20, 400));
+  stand_too("sky.Pal", made_bytes(21, 768));
   replace("SKY.PAL", made_bytes(9, 768), scenery + "sky.pal", "sky.pal", made_bytes(10, 768));
   replace("same.ter", made_bytes(11, 4000), scenery + "same.ter", "same.ter", made_bytes(11, 4000));
   replace("renamed.TER", made_bytes(12, 4000), scenery + "renamed.ter", "renamed.ter", made_bytes(12, 4000));
@@ -65,8 +68,8 @@ GameUnderFire::GameUnderFire() {
   stay(kStore + "Patches/Sp\u00E4t/a first.ldr"s, patch_record(100, "AAAA"));
   stay(kStore + "Patches/Sp\u00E4t/B second.Ldr"s,
        patch_record(102, "BBBB") + patch_record(80000, "end") + patch_record(200, "cut").substr(0, 8));
-  stand("eaw.exe", old_game);
-  for (const std::string& step : {patched, new_game, once}) pass("eaw.exe", step);
+  stand("Eaw.exe", old_game);
+  for (const std::string& step : {patched, new_game, once}) pass("Eaw.exe", step);
   // A patch keeps the spelling that the copied executable brought along.
   appear("EAW.EXE", twice);
 

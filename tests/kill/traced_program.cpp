@@ -106,9 +106,9 @@ Ending TracedProgram::run_killed(const std::string& folder, const std::string& c
 }
 
 Ending TracedProgram::run_failed(const std::string& folder, const std::string& call, int number,
-                                 const std::string& error) const {
+                                 const std::string& result) const {
   return run_under_strace(folder, {"-e", "trace=" + call, "-e",
-                                   "inject=" + call + ":error=" + error + ":when=" + std::to_string(number)});
+                                   "inject=" + call + ":" + result + ":when=" + std::to_string(number)});
 }
 
 Ending TracedProgram::run_under_strace(const std::string& folder,

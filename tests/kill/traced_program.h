@@ -45,10 +45,10 @@ class TracedProgram {
   /// The trace tells only of calls of that name.
   Ending run_killed(const std::string& folder, const std::string& call, int number, Trace& trace) const;
 
-  /// Lets the program's call number `number` (from 1) of that name fail with `error`, such as "EIO"; the call
-  /// is not made.
+  /// Lets the program's call number `number` (from 1) of that name end with `result`, such as "error=EIO" or
+  /// "retval=0"; the call is not made.
   Ending run_failed(const std::string& folder, const std::string& call, int number,
-                    const std::string& error) const;
+                    const std::string& result) const;
 
  private:
   Ending run_under_strace(const std::string& folder, const std::vector<std::string>& options) const;

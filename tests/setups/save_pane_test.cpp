@@ -53,6 +53,16 @@ TEST_F(SavingSetups, OverwritesAPickedFileWithoutAsking) {
   EXPECT_EQ(folder.read("~Vorlund/GameSetFiles/Old"), "Folder group\tFolder name\r\n");
 }
 
+TEST_F(SavingSetups, AClickBesideTheFilesPicksNone) {
+  folder.write("~Vorlund/GameSetFiles/Old", "old");
+  save.Label11_Click();
+  for (const int index : {-1, 1}) {
+    save.File5_Click(index);
+    EXPECT_EQ(save.Text2.text, "");
+    EXPECT_EQ(save.File5.selected, -1);
+  }
+}
+
 TEST_F(SavingSetups, AnEmptyNameClosesThePaneAndWritesNothing) {
   save.Label11_Click();
   save.Label4_Click();
