@@ -1,4 +1,5 @@
-// Goes through the program's typical use in the current folder: tour SCREENSHOT-FOLDER [WIDTHxHEIGHT].
+// Goes through the program's typical use in the current folder, off-screen but on Windows:
+// tour SCREENSHOT-FOLDER [WIDTHxHEIGHT].
 #include <QByteArray>
 #include <QSize>
 #include <cstdio>
@@ -23,7 +24,9 @@ int main(int argc, char** argv) {
     std::fprintf(stderr, "usage: tour SCREENSHOT-FOLDER [WIDTHxHEIGHT]\n");
     return 2;
   }
+#ifndef Q_OS_WIN
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+#endif
   const QDir folder(QString::fromLocal8Bit(argv[1]));
   if (!folder.mkpath(".")) {
     std::fprintf(stderr, "tour: can't make the folder %s\n", argv[1]);

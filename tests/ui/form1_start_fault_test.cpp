@@ -46,6 +46,7 @@ TEST_P(StartFaults, EndStartUpAndLeaveEveryFileWhole) {
       EXPECT_TRUE(old != before.end() && old->second == bytes) << name << " was touched";
     }
   }
+  RecordProperty("faults", number - 2);
   EXPECT_GT(number, kind == FaultKind::kError ? 15 : 1);
 }
 

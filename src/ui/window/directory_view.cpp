@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "ui/window/plate.h"
+#include "ui/window/theme.h"
 
 namespace vorlund {
 
@@ -28,6 +29,7 @@ DirectoryView::DirectoryView(Form1& form, const Perform& perform, QWidget* paren
   path_->setTextFormat(Qt::PlainText);
   path_->setWordWrap(true);
   folders_->setObjectName("Dir6");
+  theme::keep_font(*folders_);
   folders_->setAccessibleName("Folders around the game directory");
   QObject::connect(folders_, &QListWidget::itemActivated, panel_, [f, perform](QListWidgetItem* item) {
     const int index = item->data(kFolderRole).toInt();

@@ -76,6 +76,7 @@ GridView::GridView(const QString& name, const Grid& grid, QWidget* parent)
     : QTableView(parent), grid_(grid), model_(grid) {
   setObjectName(name);
   setAccessibleName(name);
+  theme::keep_font(*this);
   setModel(&model_);
   setItemDelegate(new EntryDelegate(*this, EntryDelegate::CurrentCell::kFramed));
   setSelectionMode(SingleSelection);

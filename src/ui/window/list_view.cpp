@@ -37,6 +37,7 @@ ListView::ListView(const QString& name, const QString& caption, const std::vecto
     : QListView(parent), model_(texts) {
   setObjectName(name);
   setAccessibleName(caption);
+  theme::keep_font(*this);
   setModel(&model_);
   setItemDelegate(new EntryDelegate(*this, EntryDelegate::CurrentCell::kPlain));
   viewport()->setAttribute(Qt::WA_Hover);

@@ -42,8 +42,7 @@ void apply_to(QApplication& application) {
   QFont font = QApplication::font();
   font.setFamilies(font.families() + QStringList{"Segoe UI", "Tahoma", "DejaVu Sans", "Liberation Sans"});
   QApplication::setFont(font);
-  for (const char* kind : {"QAbstractItemView", "QMessageBox", "QTipLabel"})
-    QApplication::setFont(font, kind);
+  QApplication::setFont(font, "QTipLabel");
   QPalette palette;
   palette.setColor(QPalette::Window, kPanel);
   palette.setColor(QPalette::WindowText, kText);
@@ -60,6 +59,13 @@ void apply_to(QApplication& application) {
   palette.setColor(QPalette::PlaceholderText, kQuietText);
   application.setPalette(palette);
   application.setStyleSheet(kStyleSheet);
+}
+
+void keep_font(QWidget& widget) {
+  QFont font = QApplication::font();
+  font.setFamilies(font.families());
+  font.setPointSizeF(font.pointSizeF());
+  widget.setFont(font);
 }
 
 int pixels(int twips) {

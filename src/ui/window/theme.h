@@ -4,6 +4,7 @@
 #include <QColor>
 #include <QPainter>
 #include <QRect>
+#include <QWidget>
 
 #include "core/controls.h"
 
@@ -27,6 +28,10 @@ inline constexpr int kRadius = 6;
 
 /// Sets style, palette and style sheet of the whole program.
 void apply_to(QApplication& application);
+
+/// Gives a list, a table or a dialog the program's font for good: on Windows such widgets have fonts of their
+/// own, which come back whenever a display changes.
+void keep_font(QWidget& widget);
 
 /// Pixels of a length in twips, and back.
 int pixels(int twips);
