@@ -29,7 +29,8 @@ void PlanePane::Label8_Click() {
   SavePS(environment_, table);
   hide_save_pane();
   Label8.caption = caption;
-  environment_.status.outcome(summary.text());
+  last_outcome = summary.text();
+  environment_.status.outcome(last_outcome);
   environment_.status.repaint();
 }
 

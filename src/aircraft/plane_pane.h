@@ -43,6 +43,7 @@ class PlanePane {
   /// sums up, each further line is a remark in plain words. The pane is hidden and stays so. A failure ends
   /// the action with an ActionError; what was written before stays, and the record is then not rewritten.
   void Label8_Click();
+  std::string last_outcome;  ///< what the last installation has come to, in plain words
 
   void Label3_Click() { table.Label3_Click(); }
   void Label30_Click() { table.Label30_Click(); }

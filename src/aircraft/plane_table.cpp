@@ -145,6 +145,10 @@ void PlaneTable::g1update() {
   Label30.caption = kShowAll;
 }
 
+void PlaneTable::show_row(int row) {
+  if (row < G1.row_count()) G1.rows[static_cast<std::size_t>(row)].hidden = false;
+}
+
 void PlaneTable::Label30_Click() {
   if (Label30.caption != kShowAll) {
     g1update();

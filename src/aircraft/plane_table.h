@@ -67,6 +67,9 @@ class PlaneTable {
   /// Refreshes the view to used rows only. A table without rows gets its header row.
   void g1update();
 
+  /// Shows one row, which is being filled.
+  void show_row(int row);
+
   /// Switches between all rows and used rows.
   void Label30_Click();
 

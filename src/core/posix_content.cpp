@@ -19,7 +19,7 @@ namespace {
 constexpr std::size_t kBlock = 256 * 1024;
 constexpr std::size_t kBuffer = kBlock + 1;
 constexpr std::size_t kFirstBlock = 4096;
-constexpr std::uint64_t kPulseBytes = 8 << 20;
+constexpr std::uint64_t kPulseBytes = 1 << 20;
 
 /// Reads up to `size` bytes at an offset, fewer only at the end of the file; -1, with errno, on failure.
 ssize_t read_at(int descriptor, char* bytes, std::size_t size, std::uint64_t offset) {

@@ -42,7 +42,7 @@ class PageBlock {
 /// Copies files one after the other through buffers that are used again. Functions throw ActionError.
 class PosixContent {
  public:
-  /// Called at least every 8 MiB while files are compared or copied.
+  /// Called at least every 1 MiB while files are compared or copied.
   void set_pulse(std::function<void()> pulse) { pulse_ = std::move(pulse); }
 
   /// Takes up a source: one that fits into the buffer is read at once.

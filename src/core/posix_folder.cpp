@@ -77,6 +77,13 @@ bool PosixFolder::SameName::operator()(std::string_view a, std::string_view b) c
 PosixFolder::PosixFolder(FileHandle handle, std::string path, Memory memory)
     : handle_(std::move(handle)), path_(std::move(path)), memory_(memory) {}
 
+bool PosixFolder::takes_files_of(const PosixFolder& other) const {
+  struct stat here {};
+  struct stat there {};
+  return ::fstat(descriptor(), &here) == 0 && ::fstat(other.descriptor(), &there) == 0 &&
+         here.st_dev == there.st_dev && here.st_gid == there.st_gid && here.st_mode == there.st_mode;
+}
+
 void PosixFolder::Names::add(std::string_view name) {
   if (!first.emplace(name).second) further.emplace(name);
 }

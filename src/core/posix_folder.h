@@ -48,6 +48,10 @@ class PosixFolder {
   /// Path of the folder as it is spelled on the disk.
   const std::string& path() const { return path_; }
 
+  /// True where files made in the other folder and moved here are the same as if they were made here: both
+  /// are on one disk, and have the same group and permissions.
+  bool takes_files_of(const PosixFolder& other) const;
+
   /// Every spelling of the name; none, with errno, when the folder can't be read.
   std::optional<Spellings> spellings(std::string_view name);
 

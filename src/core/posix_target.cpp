@@ -105,7 +105,8 @@ int PosixTarget::begin(const std::shared_ptr<PosixFolder>& staging) {
   existing_.close();
   const bool replaces = is_there() && S_ISREG(status_.st_mode);
   const mode_t mode = replaces ? status_.st_mode & kPermissions : kUsualPermissions;
-  if (!(staging && create(staging, mode)) && !create(folder_, mode)) fail();
+  const bool staged = staging && folder_->takes_files_of(*staging) && create(staging, mode);
+  if (!staged && !create(folder_, mode)) fail();
   if (replaces) set_mode(mode);
   return written_.descriptor();
 }

@@ -8,7 +8,7 @@ namespace vorlund {
 namespace {
 
 constexpr std::size_t kBlock = 256 * 1024;
-constexpr std::uint64_t kPulseBytes = 8 << 20;
+constexpr std::uint64_t kPulseBytes = 1 << 20;
 
 bool one_file(HANDLE a, HANDLE b) {
   BY_HANDLE_FILE_INFORMATION of_a;

@@ -32,7 +32,7 @@ class WindowsSource {
 /// Copies files one after the other through buffers that are used again. Functions throw ActionError.
 class WindowsContent {
  public:
-  /// Called at least every 8 MiB while files are compared or copied.
+  /// Called at least every 1 MiB while files are compared or copied.
   void set_pulse(std::function<void()> pulse) { pulse_ = std::move(pulse); }
 
   /// True when the target, which is as long as the source, is the same file or holds the same bytes.

@@ -82,8 +82,16 @@ int careers_row(const GameTable& table) {
 CleanUpSummary clean_game_directory(Environment& environment, const GameTable& table, FileList& savedata) {
   const FileSystem::Action action(
       environment.files, [&] { environment.status.pulse(); }, environment.game.path(kStore));
+  // The records are written at the end. Where they can't be, no set was ever installed, and the folder may be
+  // any: nothing must be deleted there.
+  if (!environment.files.FolderExists(environment.game.path(kStore))) {
+    throw ActionError(
+        "clean up", environment.game.path(""),
+        "it is no game folder with a store, for it has no folder \"~Vorlund\"; nothing was deleted");
+  }
   CleanUpSummary summary;
   const std::string kept_pattern = savedata.pattern;
+  savedata.path = environment.game.path(kSavedata);
   if (const int row = careers_row(table); row > 0) {
     summary.careers = move_careers_home(environment, table.G2.cell(row, GameTable::kFolder), savedata);
   }
@@ -104,6 +112,7 @@ CleanUpSummary clean_game_directory(Environment& environment, const GameTable& t
 
 std::uint64_t delete_listed_missions(Environment& environment, FileList& savedata) {
   std::uint64_t deleted = 0;
+  savedata.path = environment.game.path(kSavedata);
   savedata.refresh(environment.files);
   while (!savedata.names.empty()) {
     environment.files.remove_file(environment.game.path(kSavedata) + "\\" + savedata.names.front());

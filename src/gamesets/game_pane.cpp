@@ -19,7 +19,8 @@ void GamePane::GameLoad_Click() {
   environment_.labels.Label2.visible = true;
   SaveGS(environment_, table);
   GameLoad.caption = caption;
-  environment_.status.outcome(summary.sentence());
+  last_outcome = summary.sentence();
+  environment_.status.outcome(last_outcome);
   environment_.status.repaint();
 }
 

@@ -22,6 +22,7 @@ class GamePane {
 
   /// Installs the game set, hides the pane and writes the record.
   void GameLoad_Click();
+  std::string last_outcome;  ///< what the last installation has come to, in plain words
 
   /// `last_group` is the caption of the last group label of the selection pane.
   void Label28_Click(std::string_view last_group);

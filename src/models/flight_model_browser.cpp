@@ -108,6 +108,7 @@ void FlightModelBrowser::List3_Click() {
     environment_.status.outcome(kNoSlot);
     return;
   }
+  table.show_row(table.G1.row);
   table.G1.set_cell(table.G1.row, PlaneTable::kRecordNumber, std::to_string(index));
 }
 
@@ -185,6 +186,7 @@ std::string FlightModelBrowser::put_into_row(const std::string& flight_model) {
   PlaneTable& table = plane_.table;
   const int row = table.G1.row;
   if (row == 0) return std::string(kNoSlot);
+  table.show_row(row);
   table.G1.set_cell(row, PlaneTable::kScriptFolder, flight_model);
   const std::string folder = flight_model_folder(environment_, table, row);
   if (folder.empty() || !environment_.files.FolderExists(folder)) {

@@ -48,12 +48,14 @@ void LoadPane::Label19_Click() {
   const std::string caption = Label19.caption;
   Label19.caption = "..working!";
   environment_.status.repaint();
+  std::string outcome;
   if (!Label20.caption.empty()) {
     read_plane_set(environment_.files, File2.path + "\\" + Label20.caption, plane_.table);
     if (Check1.checked) {
       plane_.show_in_front();
     } else {
       plane_.Label8_Click();
+      outcome = plane_.last_outcome;
     }
   }
   if (!Label21.caption.empty()) {
@@ -62,8 +64,10 @@ void LoadPane::Label19_Click() {
       game_.show_in_front();
     } else {
       game_.GameLoad_Click();
+      outcome += (outcome.empty() ? "" : "\n") + game_.last_outcome;
     }
   }
+  if (!outcome.empty()) environment_.status.outcome(outcome);
   Frame2.visible = false;
   Label19.caption = caption;
   environment_.status.repaint();

@@ -10,6 +10,13 @@
 
 namespace vorlund {
 
+namespace {
+
+/// Bytes that a file name may have on Linux; Windows allows as many characters.
+constexpr std::size_t kLongestName = 255;
+
+}  // namespace
+
 SavePane::SavePane(Environment& environment, const GamePane& game, const PlanePane& plane)
     : environment_(environment), game_(game), plane_(plane) {}
 
@@ -23,7 +30,7 @@ void SavePane::Label14_Click() {
 
 void SavePane::open(SaveKind save_kind) {
   kind = save_kind;
-  File5.path = environment_.game.path(kind == SaveKind::kGameSet ? kGameSetFiles : kPlaneSetFiles);
+  File5.path = folder();
   File5.refresh(environment_.files);
   Text2.text.clear();
   Text2.visible = true;
@@ -36,17 +43,23 @@ void SavePane::File5_Click(int index) {
   if (index < 0 || index >= static_cast<int>(File5.names.size())) return;
   File5.selected = index;
   Text2.text = File5.names[static_cast<std::size_t>(index)];
+  refusal.visible = false;
+}
+
+std::string SavePane::folder() const {
+  return environment_.game.path(kind == SaveKind::kGameSet ? kGameSetFiles : kPlaneSetFiles);
 }
 
 void SavePane::Label4_Click() {
   const std::string& name = Text2.text;
   if (!name.empty()) {
-    if (!is_plain_name(name, NameRules::kPosix) || !is_plain_name(name, NameRules::kWindows)) {
+    if (name.size() > kLongestName || !is_plain_name(name, NameRules::kPosix) ||
+        !is_plain_name(name, NameRules::kWindows)) {
       refusal.caption = "This can't be a file name: please choose another";
       refusal.visible = true;
       return;
     }
-    const std::string path = File5.path + "\\" + name;
+    const std::string path = folder() + "\\" + name;
     if (kind == SaveKind::kGameSet) {
       write_game_set(environment_.files, path, game_.table);
     } else {

@@ -42,6 +42,9 @@ class SavePane {
  private:
   void open(SaveKind save_kind);
 
+  /// Where set-ups of the kind are saved in the game directory of the moment.
+  std::string folder() const;
+
   Environment& environment_;
   const GamePane& game_;
   const PlanePane& plane_;

@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "aircraft/plane_record.h"
-#include "core/patch_file.h"
 #include "core/store.h"
 #include "gamesets/clean_up.h"
 #include "gamesets/game_record.h"
@@ -76,12 +75,12 @@ void Form1::Form_Load() {
   SavDatFile.pattern = "Default*.msn";
   SavDatFile.refresh(files);
   const std::string plane_record = directory.path(kCurrentPlaneSet);
-  if (is_there(files, plane_record)) {
+  if (files.FileExists(plane_record)) {
     read_plane_set(files, plane_record, plane.table);
     WhatsLoaded.visible = true;
   }
   const std::string game_record = directory.path(kCurrentGameSet);
-  if (is_there(files, game_record)) {
+  if (files.FileExists(game_record)) {
     read_game_set(files, game_record, game.table);
     WhatsLoaded.visible = true;
   }

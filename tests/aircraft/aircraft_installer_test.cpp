@@ -145,14 +145,18 @@ TEST_F(AircraftInstaller, LaterRowWinsWithTheSameRecordNumber) {
   use(kP51B, "7", "P51", "Late");
   flight_model("P38", "1");
   flight_model("P51", "2");
+  model("P38/a.lo2", value_text("title", same_values(2, "30")));
+  model("P51/a.lo2", value_text("title", same_values(2, "50")));
   const AircraftSummary summary = install();
   EXPECT_EQ(read_names()[7], "Late");
+  EXPECT_EQ(folder.read("loadout.dat").substr(7928 + 60 * 7), std::string("\x07\x32"));
   const std::string record = folder.read("Planes.dat").substr(4 + 216 * 7);
   EXPECT_EQ(record[0], '\2');
   EXPECT_EQ(record.substr(164, 4), "P51B");
   EXPECT_EQ(summary.remarks,
-            std::vector<std::string>{
-                "slot P51B: it has the record number of slot P38H (7), whose data it replaced"});
+            (std::vector<std::string>{
+                "slot P51B: it has the record number of slot P38H (7), whose data it replaced",
+                "the load-outs of all slots came from the flight model of the last, slot P51B"}));
 }
 
 TEST_F(AircraftInstaller, LoadoutsOfAllRowsComeFromTheFolderOfTheLastRow) {

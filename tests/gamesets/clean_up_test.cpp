@@ -18,6 +18,7 @@ class CleanUpFiles : public ::testing::Test {
  protected:
   CleanUpFiles() {
     folder.make_folder("Savedata");
+    folder.make_folder("~Vorlund");
     savedata.path = folder.path("Savedata");
     savedata.pattern = "Default*.msn";
   }
@@ -90,6 +91,36 @@ TEST_F(CleanUpFiles, DeleteWhatTheMasksNameAndNothingElse) {
   for (const std::string& name : kept) EXPECT_TRUE(folder.has(name)) << name;
   EXPECT_TRUE(folder.has("Savedata/a.dat"));
   EXPECT_TRUE(folder.has("Music/a.bgm"));
+}
+
+TEST_F(CleanUpFiles, AreLeftAloneInAFolderThatHasNoStore) {
+  const test::TemporaryFolder home;
+  home.write("letter.txt", "x");
+  home.write("photo.jpg", "x");
+  environment.directory.Label16.caption = home.path();
+  try {
+    clean({});
+    ADD_FAILURE() << "no error";
+  } catch (const ActionError& error) {
+    EXPECT_EQ(error.path(), home.path());
+    EXPECT_NE(error.reason().find("~Vorlund"), std::string::npos);
+  }
+  EXPECT_EQ(home.names(), (std::vector<std::string>{"letter.txt", "photo.jpg"}));
+}
+
+TEST_F(CleanUpFiles, AreThoseOfTheGameDirectoryOfTheMoment) {
+  const test::TemporaryFolder other;
+  other.make_folder("~Vorlund/GameStore/Careers/Camp1");
+  other.write("Savedata/c2.sve", "of the other");
+  other.write("Savedata/Default2.msn", "x");
+  folder.write("Savedata/c1.sve", "of the first");
+  folder.write("Savedata/Default1.msn", "x");
+  environment.directory.Label16.caption = other.path();
+  EXPECT_EQ(clean({{"Careers", "Camp1"}}).careers, 1u);
+  EXPECT_EQ(other.read("~Vorlund/GameStore/Careers/Camp1/c2.sve"), "of the other");
+  EXPECT_EQ(delete_listed_missions(environment, savedata), 1u);
+  EXPECT_TRUE(other.names("Savedata").empty());
+  EXPECT_EQ(folder.names("Savedata"), (std::vector<std::string>{"Default1.msn", "c1.sve"}));
 }
 
 TEST_F(CleanUpFiles, RestoreTheListingOfSavedata) {

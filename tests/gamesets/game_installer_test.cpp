@@ -3,10 +3,12 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "core/action_error.h"
 #include "support/sample_environment.h"
 #include "support/temporary_folder.h"
 
@@ -88,6 +90,24 @@ TEST_F(GameInstaller, AFileThatOneEndingKeepsIsNotCopiedWhereAnotherWouldSendIt)
   EXPECT_EQ(use_of_set_file(".sve"), SetFileUse::kSavedata);
   EXPECT_EQ(use_of_set_file("sve"), SetFileUse::kGameDirectory);
   EXPECT_EQ(use_of_set_file("eaw.exe"), SetFileUse::kGameDirectory);
+}
+
+TEST_F(GameInstaller, SavedataAndMusicMustExist) {
+  const test::TemporaryFolder bare;
+  for (const std::string name : {"Savedata\\b.msn", "Music\\b.bgm"}) {
+    const std::string bare_name = name.substr(name.find('\\') + 1);
+    bare.write("~Vorlund/GameStore/Sky/Dusk/a.dat", "a");
+    bare.write("~Vorlund/GameStore/Sky/Dusk/" + bare_name, "b");
+    environment.directory.Label16.caption = bare.path();
+    try {
+      install({{"Sky", "Dusk"}});
+      ADD_FAILURE() << "no error";
+    } catch (const ActionError& error) {
+      EXPECT_EQ(error.path(), bare.path(name));
+    }
+    EXPECT_EQ(bare.names(), (std::vector<std::string>{"a.dat", "~Vorlund"})) << "no folder is made";
+    std::filesystem::remove(std::filesystem::path(bare.path()) / "~Vorlund/GameStore/Sky/Dusk" / bare_name);
+  }
 }
 
 TEST_F(GameInstaller, TheFileOfTheLowerRowWins) {

@@ -34,8 +34,10 @@ TEST_F(LoadingSetups, InstallsTheAircraftSetFirstAndThenTheGameSet) {
   load.Label19_Click();
   EXPECT_EQ(folder.read("common.dat"), "common");
   EXPECT_EQ(folder.read("sky.pal"), "dusk");
-  ASSERT_EQ(environment.status.outcomes.size(), 2U);
+  ASSERT_EQ(environment.status.outcomes.size(), 3U);
   EXPECT_NE(environment.status.outcomes[1].find("1 folder, 1 file copied"), std::string::npos);
+  EXPECT_EQ(environment.status.outcomes[2],
+            environment.status.outcomes[0] + "\n" + environment.status.outcomes[1]);
   EXPECT_TRUE(folder.has("~Vorlund/CurrentPlaneSet.txt"));
   EXPECT_TRUE(folder.has("~Vorlund/CurrentGameSet.txt"));
   EXPECT_FALSE(load.Frame2.visible);

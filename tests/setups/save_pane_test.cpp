@@ -63,6 +63,40 @@ TEST_F(SavingSetups, AClickBesideTheFilesPicksNone) {
   }
 }
 
+TEST_F(SavingSetups, ANameThatIsTooLongForAFileIsRefused) {
+  save.Label11_Click();
+  save.Text2.text = std::string(256, 'n');
+  save.Label4_Click();
+  EXPECT_TRUE(save.SaveFrame.visible);
+  EXPECT_TRUE(save.refusal.visible);
+  EXPECT_TRUE(folder.names("~Vorlund/GameSetFiles").empty());
+  save.Text2.text = std::string(255, 'n');
+  save.Label4_Click();
+  EXPECT_FALSE(save.SaveFrame.visible);
+  EXPECT_EQ(folder.names("~Vorlund/GameSetFiles"), (std::vector<std::string>{std::string(255, 'n')}));
+}
+
+TEST_F(SavingSetups, TheRefusalGoesWhenAnExistingNameIsPicked) {
+  folder.write("~Vorlund/GameSetFiles/Old", "old");
+  save.Label11_Click();
+  save.Text2.text = "a:b";
+  save.Label4_Click();
+  EXPECT_TRUE(save.refusal.visible);
+  save.File5_Click(0);
+  EXPECT_FALSE(save.refusal.visible);
+}
+
+TEST_F(SavingSetups, SavesIntoTheGameDirectoryOfTheMoment) {
+  const test::TemporaryFolder other;
+  other.make_folder("~Vorlund/GameSetFiles");
+  save.Label11_Click();
+  save.Text2.text = "new";
+  environment.directory.Label16.caption = other.path();
+  save.Label4_Click();
+  EXPECT_TRUE(other.has("~Vorlund/GameSetFiles/new"));
+  EXPECT_FALSE(folder.has("~Vorlund/GameSetFiles/new"));
+}
+
 TEST_F(SavingSetups, AnEmptyNameClosesThePaneAndWritesNothing) {
   save.Label11_Click();
   save.Label4_Click();

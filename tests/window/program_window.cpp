@@ -101,11 +101,13 @@ void ProgramWindow::press_key(const QString& name, Qt::Key key) {
 void ProgramWindow::drag(const QString& name, const QPoint& from, const QPoint& by, Qt::MouseButton button) {
   QWidget* target = widget(name);
   QTest::mousePress(target, button, Qt::NoModifier, from);
-  // The widget follows the pointer, so that the release lies where the press lay within it.
-  QMouseEvent move(QEvent::MouseMove, QPointF(from + by), QPointF(target->mapToGlobal(from + by)), button,
-                   button, Qt::NoModifier);
+  const QPoint there = target->mapToGlobal(from + by);
+  QMouseEvent move(QEvent::MouseMove, QPointF(from + by), QPointF(there), button, button, Qt::NoModifier);
   QApplication::sendEvent(target, &move);
-  QTest::mouseRelease(target, button, Qt::NoModifier, from);
+  // The widget has followed the pointer, as far as it can be dragged.
+  QMouseEvent release(QEvent::MouseButtonRelease, QPointF(target->mapFromGlobal(there)), QPointF(there),
+                      button, Qt::NoButton, Qt::NoModifier);
+  QApplication::sendEvent(target, &release);
   QApplication::processEvents();
 }
 

@@ -40,6 +40,8 @@ ActionLabel::ActionLabel(const QString& name, Look look, QWidget* parent, Drag d
   setFocusPolicy(Qt::StrongFocus);
   setCursor(Qt::PointingHandCursor);
   setAttribute(Qt::WA_Hover);
+  // Mouse and keys are handled below; this is the press of an assistive tool.
+  connect(this, &QAbstractButton::clicked, this, [this] { command(Qt::NoModifier); });
   if (look == Look::kHelp) {
     QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Minimum);
     policy.setHeightForWidth(true);
@@ -114,7 +116,7 @@ bool ActionLabel::wraps() const {
 bool ActionLabel::event(QEvent* event) {
   const bool cut = !wraps() && QFontMetrics(shown_font()).horizontalAdvance(text()) > text_area().width();
   if (event->type() == QEvent::ToolTip && cut && toolTip().isEmpty()) {
-    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), text(), this);
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), theme::literal(text()), this);
     return true;
   }
   return QAbstractButton::event(event);
@@ -165,7 +167,8 @@ void ActionLabel::mouseReleaseEvent(QMouseEvent* event) {
           ? event->globalPosition() - parentWidget()->mapToGlobal(QPointF(place_at_press_))
           : event->position();
   const bool inside = rect().contains(position.toPoint());
-  if (event->button() == Qt::RightButton ? drag_ == Drag::kNo && !inside : !inside) return;
+  if (drag_ == Drag::kNo && event->button() != Qt::LeftButton) return;
+  if (!inside && event->button() != Qt::RightButton) return;
   if (on_release) on_release(to_model(event->button(), event->modifiers(), position));
 }
 
@@ -179,12 +182,14 @@ void ActionLabel::mouseDoubleClickEvent(QMouseEvent* event) {
 
 void ActionLabel::keyPressEvent(QKeyEvent* event) {
   if (activates(*event)) {
-    if (!event->isAutoRepeat() && on_release) {
-      on_release(to_model(Qt::LeftButton, event->modifiers(), QPointF(rect().center())));
-    }
+    if (!event->isAutoRepeat()) command(event->modifiers());
     return;
   }
   QAbstractButton::keyPressEvent(event);
+}
+
+void ActionLabel::command(Qt::KeyboardModifiers modifiers) {
+  if (on_release) on_release(to_model(Qt::LeftButton, modifiers, QPointF(rect().center())));
 }
 
 void ActionLabel::keyReleaseEvent(QKeyEvent* event) {

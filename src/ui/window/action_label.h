@@ -26,8 +26,9 @@ class ActionLabel : public QAbstractButton {
 
   ActionLabel(const QString& name, Look look, QWidget* parent, Drag drag = Drag::kNo);
 
-  /// Called for each press, and for each release that commands (left or middle button inside the label, Enter
-  /// or Space) or ends a drag (right button).
+  /// Called for each press, and for each release that commands or ends a drag. The left button inside the
+  /// label, Enter and Space command; a label that can be dragged also hands on the middle button inside it,
+  /// and the right one wherever it is released.
   std::function<void(const MouseEvent&)> on_press;
   std::function<void(const MouseEvent&)> on_release;
   std::function<void()> on_double_click;
@@ -51,6 +52,7 @@ class ActionLabel : public QAbstractButton {
   void leaveEvent(QEvent* event) override;
 
  private:
+  void command(Qt::KeyboardModifiers modifiers);
   QColor fill() const;
   QRect text_area() const;
   QFont shown_font() const;

@@ -20,7 +20,7 @@ void report_error(const QString& text) {
                   "The action failed and Vorlund has to end. What was done before it failed stays as it is.");
   box.setObjectName("ErrorReport");
   theme::keep_font(box);
-  box.setInformativeText(text);
+  box.setInformativeText(theme::literal(text));
   box.setTextInteractionFlags(Qt::TextSelectableByMouse);
   box.exec();
 }

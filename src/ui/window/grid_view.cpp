@@ -16,6 +16,8 @@ namespace vorlund {
 namespace {
 
 constexpr int kPadding = 2 * EntryDelegate::kMargin + 3;  // of headers and cells, with the grid line
+constexpr int kMeasuredRows = 200;
+constexpr std::size_t kMeasuredBytes = 100;
 
 }  // namespace
 
@@ -55,8 +57,9 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
   const int row = grid_row(index.row());
   switch (role) {
     case Qt::DisplayRole:
-    case Qt::ToolTipRole:
       return QString::fromStdString(grid_.cell(row, index.column()));
+    case Qt::ToolTipRole:
+      return theme::literal(QString::fromStdString(grid_.cell(row, index.column())));
     case Qt::ForegroundRole:
       if (cycles && cycles(row, index.column())) return theme::kAccent;
       return index.column() == 0 ? theme::kQuietText : theme::kText;
@@ -132,25 +135,32 @@ int GridView::header_width(int column) const {
   return fontMetrics().horizontalAdvance(QString::fromStdString(grid_.cell(0, column))) + kPadding;
 }
 
+/// Records come from other players too: of a very long table only the beginning is measured, and of a very
+/// long text.
 int GridView::wanted_width(int column) const {
-  int width = header_width(column);
-  for (int row = 0; row < model_.rowCount(); ++row) {
-    const QString text = QString::fromStdString(grid_.cell(model_.grid_row(row), column));
-    width = std::max(width, fontMetrics().horizontalAdvance(text) + kPadding);
+  int width = 0;
+  for (int row = 0; row < std::min(model_.rowCount(), kMeasuredRows); ++row) {
+    const std::string& text = grid_.cell(model_.grid_row(row), column);
+    const QString measured = QString::fromStdString(text.substr(0, kMeasuredBytes));
+    width = std::max(width, fontMetrics().horizontalAdvance(measured) + kPadding);
   }
   return width;
 }
 
 void GridView::share_room() {
-  if (sharing_ == Sharing::kOff || grid_.columns == 0) return;
+  if (sharing_ == Sharing::kOff || grid_.columns == 0 || !isVisible()) return;
+  std::vector<int> least;
   std::vector<int> widths;
-  for (int column = 0; column < grid_.columns; ++column) widths.push_back(wanted_width(column));
+  for (int column = 0; column < grid_.columns; ++column) {
+    least.push_back(header_width(column));
+    widths.push_back(std::max(least.back(), wanted_width(column)));
+  }
   int spare = viewport()->width() - std::accumulate(widths.begin(), widths.end(), 0);
   for (; spare < 0; ++spare) {
     int* longest = nullptr;
-    for (int column = 0; column < grid_.columns; ++column) {
-      int& width = widths[static_cast<std::size_t>(column)];
-      if (width > header_width(column) && (longest == nullptr || width > *longest)) longest = &width;
+    for (std::size_t column = 0; column < widths.size(); ++column) {
+      int& width = widths[column];
+      if (width > least[column] && (longest == nullptr || width > *longest)) longest = &width;
     }
     if (longest == nullptr) break;
     --*longest;
@@ -170,6 +180,11 @@ void GridView::paintEvent(QPaintEvent* event) {
   QPainter painter(viewport());
   painter.setPen(theme::kQuietText);
   painter.drawText(viewport()->rect(), Qt::AlignCenter | Qt::TextWordWrap, empty_text_);
+}
+
+void GridView::showEvent(QShowEvent* event) {
+  QTableView::showEvent(event);
+  share_room();
 }
 
 void GridView::resizeEvent(QResizeEvent* event) {

@@ -2,17 +2,23 @@
 #include "ui/window/group_labels_view.h"
 
 #include <QScrollBar>
+#include <algorithm>
 
 #include "ui/window/theme.h"
 
 namespace vorlund {
+
+namespace {
+
+constexpr int kBelow = 40;  // pixels that the status line takes
+
+}  // namespace
 
 GroupLabelsView::GroupLabelsView(Form1& form, const Perform& perform, QWidget* parent)
     : form_(form), perform_(perform), parent_(parent), area_(new QScrollArea(parent)), board_(new QWidget) {
   area_->setObjectName("GroupLabels");
   area_->setFrameShape(QFrame::NoFrame);
   area_->setWidget(board_);
-  area_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   area_->viewport()->setAutoFillBackground(false);
   board_->setAutoFillBackground(false);
   area_->hide();
@@ -46,8 +52,10 @@ void GroupLabelsView::apply() {
   }
   const int scroll_bar = area_->horizontalScrollBar()->sizeHint().height() + 4;
   board_->resize(extent.size());
+  // They were placed in columns for the height that the window had then.
+  const int room = parent_->height() - kBelow - origin.y();
   area_->setGeometry(origin.x(), origin.y(), parent_->width() - origin.x() - 14,
-                     extent.height() + scroll_bar);
+                     std::min(extent.height() + scroll_bar, room));
   area_->setVisible(any);
 }
 

@@ -28,7 +28,8 @@ int TextListModel::rowCount(const QModelIndex& parent) const {
 QVariant TextListModel::data(const QModelIndex& index, int role) const {
   const std::size_t row = static_cast<std::size_t>(index.row());
   if (!index.isValid() || row >= texts_.size()) return {};
-  if (role == Qt::DisplayRole || role == Qt::ToolTipRole) return QString::fromStdString(texts_[row]);
+  if (role == Qt::DisplayRole) return QString::fromStdString(texts_[row]);
+  if (role == Qt::ToolTipRole) return theme::literal(QString::fromStdString(texts_[row]));
   return {};
 }
 

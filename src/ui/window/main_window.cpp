@@ -29,6 +29,7 @@ namespace vorlund {
 namespace {
 
 constexpr int kStatusHeight = 34;
+constexpr int kAroundStatus = 16;  // pixels above and below a status of several lines
 constexpr int kPaintEveryMilliseconds = 50;
 constexpr QSize kUsualSize{1280, 800};
 constexpr QSize kSmallestSize{960, 560};
@@ -47,6 +48,7 @@ MainWindow::MainWindow(FileSystem& files, std::function<void(const QString&)> re
   status_text_ = new QLabel(status_bar_);
   status_text_->setObjectName("StatusLine");
   status_text_->setTextFormat(Qt::PlainText);
+  status_text_->setWordWrap(true);
   status_text_->setTextInteractionFlags(Qt::TextSelectableByMouse);
   progress_text_ = new QLabel(status_bar_);
   progress_text_->setObjectName("ProgressFile");
@@ -146,10 +148,20 @@ void MainWindow::apply() {
   if (form_->selection.Frame3.visible) form_->selection.Frame3.place = form_->selection.screen;
   for (const auto& view : views_) view->apply();
   apply_order();
-  status_bar_->setGeometry(0, height() - kStatusHeight, width(), kStatusHeight);
   status_text_->setText(QString::fromStdString(form_->status_line().caption));
   status_text_->setVisible(progress_bar_->isHidden());
+  place_status_bar();
   update();
+}
+
+/// As high as its text needs, up to half of the window; what has no room then is in the tooltip.
+void MainWindow::place_status_bar() {
+  const QMargins margins = status_bar_->layout()->contentsMargins();
+  const int room = width() - margins.left() - margins.right();
+  const int wanted = status_text_->isHidden() ? 0 : status_text_->heightForWidth(room) + kAroundStatus;
+  const int high = std::clamp(wanted, kStatusHeight, std::max(kStatusHeight, height() / 2));
+  status_text_->setToolTip(wanted > high ? theme::literal(status_text_->text()) : QString());
+  status_bar_->setGeometry(0, height() - high, width(), high);
 }
 
 void MainWindow::apply_order() {

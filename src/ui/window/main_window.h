@@ -55,6 +55,7 @@ class MainWindow : public QWidget, private Status {
   void add_views();
   void apply();
   void apply_order();
+  void place_status_bar();
   void follow_requests();
   void report(const std::exception& error);
   void keep_alive();

@@ -46,12 +46,17 @@ void PaneFrame::apply(const Frame& frame) {
   const QSize room = parentWidget()->size();
   place.setSize(place.size().boundedTo(room).expandedTo(minimumSizeHint().boundedTo(room)));
   if (!pressed_) {
-    const QPoint furthest(room.width() - 80, room.height() - 40);
-    place.moveTo(std::clamp(place.left(), 80 - place.width(), std::max(furthest.x(), 0)),
-                 std::clamp(place.top(), 0, std::max(furthest.y(), 0)));
+    place.moveTo(within_reach(place.topLeft(), place.width()));
     setGeometry(place);
   }
   setVisible(frame.visible);
+}
+
+/// The nearest corner at which enough of the pane is left inside the window to take hold of it.
+QPoint PaneFrame::within_reach(const QPoint& corner, int width) const {
+  const QSize room = parentWidget()->size();
+  return {std::clamp(corner.x(), 80 - width, std::max(room.width() - 80, 0)),
+          std::clamp(corner.y(), 0, std::max(room.height() - 40, 0))};
 }
 
 void PaneFrame::paintEvent(QPaintEvent*) {
@@ -76,8 +81,12 @@ void PaneFrame::mousePressEvent(QMouseEvent* event) {
 
 void PaneFrame::mouseMoveEvent(QMouseEvent* event) {
   if (pressed_ && free_area_ == FreeArea::kMoves) {
-    move(place_at_press_ + (event->globalPosition() - pressed_at_).toPoint());
+    move(dragged_to(*event));
   }
+}
+
+QPoint PaneFrame::dragged_to(const QMouseEvent& event) const {
+  return within_reach(place_at_press_ + (event.globalPosition() - pressed_at_).toPoint(), width());
 }
 
 void PaneFrame::mouseReleaseEvent(QMouseEvent* event) {
@@ -85,8 +94,9 @@ void PaneFrame::mouseReleaseEvent(QMouseEvent* event) {
   pressed_ = false;
   const bool click = rect().contains(event->position().toPoint()) && event->button() == Qt::LeftButton;
   if (!on_release || (free_area_ == FreeArea::kHides && !click)) return;
+  const QPointF pressed = pressed_at_ - parentWidget()->mapToGlobal(QPointF(place_at_press_));
   const QPointF moved = free_area_ == FreeArea::kMoves
-                            ? event->globalPosition() - parentWidget()->mapToGlobal(QPointF(place_at_press_))
+                            ? pressed + QPointF(dragged_to(*event) - place_at_press_)
                             : event->position();
   on_release(to_model(event->button(), event->modifiers(), moved));
 }

@@ -38,6 +38,9 @@ class PaneFrame : public QWidget {
   void mouseReleaseEvent(QMouseEvent* event) override;
 
  private:
+  QPoint within_reach(const QPoint& corner, int width) const;
+  QPoint dragged_to(const QMouseEvent& event) const;
+
   int title_height() const;
 
   FreeArea free_area_;

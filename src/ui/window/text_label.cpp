@@ -35,7 +35,7 @@ QSize TextLabel::minimumSizeHint() const {
 
 bool TextLabel::event(QEvent* event) {
   if (event->type() == QEvent::ToolTip && fontMetrics().horizontalAdvance(text()) > width()) {
-    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), text(), this);
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), theme::literal(text()), this);
     return true;
   }
   return QLabel::event(event);

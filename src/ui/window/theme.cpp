@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QPalette>
 #include <QStyleFactory>
+#include <QTextDocument>
 #include <cmath>
 
 namespace vorlund::theme {
@@ -66,6 +67,10 @@ void keep_font(QWidget& widget) {
   font.setFamilies(font.families());
   font.setPointSizeF(font.pointSizeF());
   widget.setFont(font);
+}
+
+QString literal(const QString& text) {
+  return Qt::mightBeRichText(text) ? text.toHtmlEscaped() : text;
 }
 
 int pixels(int twips) {

@@ -33,6 +33,9 @@ void apply_to(QApplication& application);
 /// own, which come back whenever a display changes.
 void keep_font(QWidget& widget);
 
+/// The text as a tooltip or a dialog shows it literally: such take a text that looks like HTML for it.
+QString literal(const QString& text);
+
 /// Pixels of a length in twips, and back.
 int pixels(int twips);
 int twips(double pixels);

@@ -1,0 +1,80 @@
+// Pictures as the window shows them: of any format, in their shape, at the shown size, damaged ones replaced.
+#include <gtest/gtest.h>
+
+#include <QBuffer>
+#include <QImage>
+
+#include "ui/window/picture_view.h"
+
+namespace vorlund::test {
+namespace {
+
+const QColor kRed(200, 30, 40);
+const QColor kBlue(30, 40, 200);
+
+/// The bytes of a plain picture in a format of the window library.
+PictureFile picture_file(const char* format, const QSize& size, const QColor& colour) {
+  QImage image(size, QImage::Format_RGB32);
+  image.fill(colour);
+  QByteArray bytes;
+  QBuffer buffer(&bytes);
+  EXPECT_TRUE(image.save(&buffer, format, 100)) << format;
+  return {"mypic", std::make_shared<const std::string>(bytes.toStdString())};
+}
+
+PictureFile damaged_file() {
+  return {"mypic", std::make_shared<const std::string>("\xFF\xD8\xFF\xE0 no picture at all")};
+}
+
+/// The colour in the middle, the nearest multiple of 10 for what a jpg makes of it.
+QColor middle_of(const QPixmap& pixmap) {
+  const QColor colour = pixmap.toImage().pixelColor(pixmap.rect().center());
+  const auto rounded = [](int part) { return (part + 5) / 10 * 10; };
+  return {rounded(colour.red()), rounded(colour.green()), rounded(colour.blue())};
+}
+
+TEST(Pictures, OfEachFormatAreRecognisedByTheirContent) {
+  for (const char* format : {"jpg", "bmp", "png"}) {
+    const QPixmap shown =
+        decode_picture({picture_file(format, {60, 40}, kRed), {}}, {30, 20}, PictureFit::kWhole);
+    EXPECT_EQ(shown.size(), QSize(30, 20)) << format;
+    EXPECT_EQ(middle_of(shown), kRed) << format;
+  }
+}
+
+TEST(Pictures, KeepTheirShape) {
+  const Picture wide{picture_file("bmp", {400, 100}, kRed), {}};
+  EXPECT_EQ(decode_picture(wide, {200, 200}, PictureFit::kWhole).size(), QSize(200, 50));
+  EXPECT_EQ(decode_picture(wide, {200, 200}, PictureFit::kCover).size(), QSize(800, 200));
+  const Picture high{picture_file("jpg", {100, 400}, kRed), {}};
+  EXPECT_EQ(decode_picture(high, {200, 200}, PictureFit::kWhole).size(), QSize(50, 200));
+  const Picture small{picture_file("png", {4, 2}, kRed), {}};
+  EXPECT_EQ(decode_picture(small, {200, 200}, PictureFit::kWhole).size(), QSize(200, 100));
+}
+
+TEST(Pictures, FarLargerThanShownAreShownWhole) {
+  for (const char* format : {"jpg", "bmp"}) {
+    const Picture large{picture_file(format, {8000, 4000}, kBlue), {}};
+    const QPixmap shown = decode_picture(large, {400, 400}, PictureFit::kWhole);
+    EXPECT_EQ(shown.size(), QSize(400, 200)) << format;
+    EXPECT_EQ(middle_of(shown), kBlue) << format;
+  }
+}
+
+TEST(Pictures, ThatAreDamagedOrMissingGiveWayToTheDefaultOne) {
+  const PictureFile fallback = picture_file("png", {20, 20}, kBlue);
+  for (const PictureFile& picture : {damaged_file(), PictureFile()}) {
+    EXPECT_EQ(middle_of(decode_picture({picture, fallback}, {20, 20}, PictureFit::kWhole)), kBlue);
+    EXPECT_TRUE(decode_picture({picture, damaged_file()}, {20, 20}, PictureFit::kWhole).isNull());
+    EXPECT_TRUE(decode_picture({picture, {}}, {20, 20}, PictureFit::kWhole).isNull());
+  }
+}
+
+TEST(Pictures, OfAnEndlessShapeAreNoReasonToEnd) {
+  const Picture line{picture_file("png", {3000, 1}, kRed), {}};
+  EXPECT_EQ(decode_picture(line, {100, 100}, PictureFit::kWhole).size(), QSize(100, 1));
+  EXPECT_TRUE(decode_picture(line, {}, PictureFit::kWhole).isNull());
+}
+
+}  // namespace
+}  // namespace vorlund::test
