@@ -77,11 +77,17 @@ bool PosixFolder::SameName::operator()(std::string_view a, std::string_view b) c
 PosixFolder::PosixFolder(FileHandle handle, std::string path, Memory memory)
     : handle_(std::move(handle)), path_(std::move(path)), memory_(memory) {}
 
-bool PosixFolder::takes_files_of(const PosixFolder& other) const {
-  struct stat here {};
-  struct stat there {};
-  return ::fstat(descriptor(), &here) == 0 && ::fstat(other.descriptor(), &there) == 0 &&
-         here.st_dev == there.st_dev && here.st_gid == there.st_gid && here.st_mode == there.st_mode;
+const struct stat* PosixFolder::status() {
+  struct stat status {};
+  if (!status_ && ::fstat(descriptor(), &status) == 0) status_ = status;
+  return status_ ? &*status_ : nullptr;
+}
+
+bool PosixFolder::takes_files_of(PosixFolder& other) {
+  const struct stat* here = status();
+  const struct stat* there = other.status();
+  return here != nullptr && there != nullptr && here->st_dev == there->st_dev &&
+         here->st_gid == there->st_gid && here->st_mode == there->st_mode;
 }
 
 void PosixFolder::Names::add(std::string_view name) {

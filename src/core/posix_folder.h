@@ -1,6 +1,7 @@
 // Folders of a disk that tells cases apart, and finding names in them without regard to case.
 #pragma once
 
+#include <sys/stat.h>
 #include <sys/types.h>
 
 #include <functional>
@@ -50,7 +51,7 @@ class PosixFolder {
 
   /// True where files made in the other folder and moved here are the same as if they were made here: both
   /// are on one disk, and have the same group and permissions.
-  bool takes_files_of(const PosixFolder& other) const;
+  bool takes_files_of(PosixFolder& other);
 
   /// Every spelling of the name; none, with errno, when the folder can't be read.
   std::optional<Spellings> spellings(std::string_view name);
@@ -85,6 +86,8 @@ class PosixFolder {
         further;  ///< the other ones: mostly there are none
   };
 
+  /// What the system says of the folder, asked once; null where it can't be asked.
+  const struct stat* status();
   bool remember_names();
   bool read_names(const std::function<void(std::string_view)>& take) const;
 
@@ -92,6 +95,7 @@ class PosixFolder {
   std::string path_;
   Memory memory_;
   std::optional<Names> names_;
+  std::optional<struct stat> status_;
   bool last_as_spelled_ = false;
 };
 
