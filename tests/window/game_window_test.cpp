@@ -232,7 +232,7 @@ TEST_F(GameWindow, WorkShowsItsCaptionAndAProgressBarWhileItRuns) {
   /// Looks at the window whenever it paints while the installation runs.
   class Watcher : public QObject {
    public:
-    Watcher(ActionLabel* label, QProgressBar* bar, QLabel* file) : label_(label), bar_(bar), file_(file) {
+    Watcher(ActionLabel* label, QProgressBar* bar, QLabel* file) : label_(label), file_(file) {
       bar->installEventFilter(this);
     }
     bool eventFilter(QObject*, QEvent* event) override {
@@ -246,7 +246,6 @@ TEST_F(GameWindow, WorkShowsItsCaptionAndAProgressBarWhileItRuns) {
 
    private:
     ActionLabel* label_;
-    QProgressBar* bar_;
     QLabel* file_;
   };
   click("WhatsLoaded");
