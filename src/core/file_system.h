@@ -41,10 +41,10 @@ struct FolderEntry {
 ///
 /// A file is always replaced whole: it is written under the name `neighbour_name(target)` in the target's
 /// folder, or in the one that an Action names for it, and renamed, so that a crash leaves the old file or the
-/// new one. A failed write leaves the old
-/// file. A written file keeps the permissions of the one it replaces, and never follows a symbolic link: the
-/// link itself is replaced. A file marked read-only (no write permission at all, on POSIX) is not replaced or
-/// removed: that is an error. Nothing here ever creates a folder.
+/// new one. A failed write leaves the old file. A written file keeps the permissions of the one it replaces,
+/// and never follows a symbolic link: the link itself is replaced. A file marked read-only (no write
+/// permission at all, on POSIX) is not replaced or removed: that is an error. Nothing here ever creates a
+/// folder.
 class FileSystem {
  public:
   static constexpr std::uint64_t kNoLimit = std::numeric_limits<std::uint64_t>::max();
