@@ -45,8 +45,9 @@ class PosixTarget {
   /// written to, else beside the file. An error where the file must not be replaced.
   int begin(const std::shared_ptr<PosixFolder>& staging);
 
-  /// Puts the neighbour in the file's place. False where that can't be done from the staging folder, because
-  /// it lies on another disk: then everything is to be written once more, without staging.
+  /// Puts the neighbour in the file's place. False where that can't be done from the staging folder, which
+  /// may be mounted apart although it lies on the same disk: then everything is to be written once more,
+  /// without staging.
   bool finish(Durability durability);
 
  private:

@@ -48,6 +48,18 @@ TEST_F(TwoDisks, AFolderOfTheOneDoesNotLieInTheOther) {
   EXPECT_FALSE(files_->lies_inside(other_disk_, folder_.path()));
 }
 
+TEST_F(TwoDisks, AStagingFolderOnTheOtherServesNot) {
+  const std::string neighbour(neighbour_name("any"));
+  files_->replace_file(other_disk_ + "\\" + neighbour, "would be taken over", Durability::kCached);
+  folder_.write("source", "new");
+  {
+    const FileSystem::Action action(*files_, {}, other_disk_);
+    files_->copy_file(folder_.path("source"), folder_.path("copy"), Durability::kCached);
+  }
+  EXPECT_EQ(folder_.read("copy"), "new");
+  EXPECT_EQ(files_->read_file(other_disk_ + "\\" + neighbour), "would be taken over");
+}
+
 /// A btrfs in an image file, mounted meanwhile.
 class SharedBlocks : public testing::Test {
  protected:

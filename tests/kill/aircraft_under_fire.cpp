@@ -35,11 +35,6 @@ std::string aircraft_record(int record) {
   return bytes;
 }
 
-std::string with(std::string content, std::size_t offset, const std::string& bytes) {
-  if (content.size() < offset + bytes.size()) content.resize(offset + bytes.size(), '\0');
-  return content.replace(offset, bytes.size(), bytes);
-}
-
 /// The values with the record number as the first byte of each load-out record.
 std::string numbered(std::string values, std::size_t record_size, int record) {
   for (std::size_t at = 0; at < values.size(); at += record_size) values[at] = static_cast<char>(record);
@@ -83,21 +78,21 @@ AircraftUnderFire::AircraftUnderFire() {
   stay(kSkins + "SkinList.txt"s, "USAAF\\Silver\\P38H\r\nW\xFCste\\Sand\\P47C\r\n");
 
   stand("horizon.PAL", made_bytes(4, 768));
-  copy(kGroup + "Horizon.pal"s, "Horizon.pal", made_bytes(5, 768));
-  copy(kGroup + "group.dat"s, "group.dat", made_bytes(6, 150000));
+  create(kGroup + "Horizon.pal"s, "Horizon.pal", made_bytes(5, 768));
+  create(kGroup + "group.dat"s, "group.dat", made_bytes(6, 150000));
   stand("same.dat", made_bytes(7, 4000));
-  copy(kGroup + "same.dat"s, "same.dat", made_bytes(7, 4000));
+  create(kGroup + "same.dat"s, "same.dat", made_bytes(7, 4000));
 
   stand("p38h.FLT", made_bytes(8, 300));
-  copy(kGroup + "Heavy/flight.flt"s, "P38H.flt", made_bytes(9, 400));
-  copy(kGroup + "Late/flight.flt"s, "P38J.flt", made_bytes(10, 400));
+  create(kGroup + "Heavy/flight.flt"s, "P38H.flt", made_bytes(9, 400));
+  create(kGroup + "Late/flight.flt"s, "P38J.flt", made_bytes(10, 400));
 
   stay(kSkins + "USAAF/Silver/MyPic"s, made_bytes(11, 2000));
-  copy(kSkins + "USAAF/Silver/PP38H.3dz"s, "PP38H.3dz", made_bytes(12, 9000));
+  create(kSkins + "USAAF/Silver/PP38H.3dz"s, "PP38H.3dz", made_bytes(12, 9000));
   stand("pp38h.TPC", made_bytes(13, 70000));
-  copy(kSkins + "USAAF/Silver/PP38H.tpc"s, "PP38H.tpc", made_bytes(14, 60000));
-  copy(kSkins + "W\u00FCste/Sand/pp47c.tpc"s, "pp47c.tpc", made_bytes(15, 70000));
-  copy(kSkins + "W\u00FCste/Sand/vcg1.dat"s, "vcg1.dat", "");
+  create(kSkins + "USAAF/Silver/PP38H.tpc"s, "PP38H.tpc", made_bytes(14, 60000));
+  create(kSkins + "W\u00FCste/Sand/pp47c.tpc"s, "pp47c.tpc", made_bytes(15, 70000));
+  create(kSkins + "W\u00FCste/Sand/vcg1.dat"s, "vcg1.dat", "");
 
   lay_out_records();
   lay_out_loadouts();
@@ -116,11 +111,6 @@ AircraftUnderFire::AircraftUnderFire() {
   std::string whole = rows;
   for (int slot = 3; slot < 30; ++slot) whole += "\t\t\t\t\t\t\t\t\t\r\n";
   appear(kRecord, whole);
-}
-
-void AircraftUnderFire::copy(const std::string& source, const std::string& name, const std::string& content) {
-  stay(source, content);
-  appear(name, content);
 }
 
 /// 216 bytes a record after 4 bytes; the file is too short for the last of the three.

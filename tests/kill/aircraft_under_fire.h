@@ -16,7 +16,6 @@ class AircraftUnderFire : public FolderUnderFire {
   AircraftUnderFire();
 
  private:
-  void copy(const std::string& source, const std::string& name, const std::string& content);
   void lay_out_records();
   void lay_out_loadouts();
   void lay_out_names();

@@ -33,6 +33,11 @@ std::string made_bytes(std::uint32_t seed, std::size_t size) {
   return bytes;
 }
 
+std::string with(std::string content, std::size_t offset, const std::string& bytes) {
+  if (content.size() < offset + bytes.size()) content.resize(offset + bytes.size(), '\0');
+  return content.replace(offset, bytes.size(), bytes);
+}
+
 void FolderUnderFire::stay(const std::string& name, const std::string& content) {
   stand(name, content);
   appear(name, content);
@@ -46,6 +51,11 @@ void FolderUnderFire::stand(const std::string& name, const std::string& content)
 void FolderUnderFire::appear(const std::string& name, const std::string& content) {
   finished_[name] = content;
   pass(name, content);
+}
+
+void FolderUnderFire::create(const std::string& source, const std::string& name, const std::string& content) {
+  stay(source, content);
+  appear(name, content);
 }
 
 void FolderUnderFire::pass(const std::string& name, const std::string& content) {

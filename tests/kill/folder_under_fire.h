@@ -16,6 +16,9 @@ using Tree = std::map<std::string, std::string>;
 /// Bytes without a pattern, others for each seed.
 std::string made_bytes(std::uint32_t seed, std::size_t size);
 
+/// The content with these bytes at an offset, made longer where they reach beyond its end.
+std::string with(std::string content, std::size_t offset, const std::string& bytes);
+
 /// A game folder before, during and after an action.
 class FolderUnderFire {
  public:
@@ -43,6 +46,8 @@ class FolderUnderFire {
   /// The file is there before; `appear` says what is there afterwards.
   void stand(const std::string& name, const std::string& content);
   void appear(const std::string& name, const std::string& content);
+  /// The file of the store is there before and after; the action copies it to `name`.
+  void create(const std::string& source, const std::string& name, const std::string& content);
   /// The file may hold this between two steps.
   void pass(const std::string& name, const std::string& content);
   /// A further spelling of a file that is there before.

@@ -22,11 +22,6 @@ std::string patch_record(std::size_t first, const std::string& bytes) {
   return record + bytes;
 }
 
-std::string with(std::string content, std::size_t offset, const std::string& bytes) {
-  if (content.size() < offset + bytes.size()) content.resize(offset + bytes.size(), '\0');
-  return content.replace(offset, bytes.size(), bytes);
-}
-
 }  // namespace
 
 GameUnderFire::GameUnderFire() {
@@ -90,11 +85,6 @@ void GameUnderFire::replace(const std::string& old_name, const std::string& old_
                             const std::string& source, const std::string& name, const std::string& content) {
   stand(old_name, old_content);
   create(source, name, content);
-}
-
-void GameUnderFire::create(const std::string& source, const std::string& name, const std::string& content) {
-  stay(kStore + source, content);
-  appear(name, content);
 }
 
 }  // namespace vorlund::test

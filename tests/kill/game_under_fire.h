@@ -15,7 +15,6 @@ class GameUnderFire : public FolderUnderFire {
  private:
   void replace(const std::string& old_name, const std::string& old_content, const std::string& source,
                const std::string& name, const std::string& content);
-  void create(const std::string& source, const std::string& name, const std::string& content);
 };
 
 }  // namespace vorlund::test

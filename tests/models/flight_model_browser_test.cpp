@@ -160,6 +160,18 @@ TEST_F(Browser, FillsTheRowFromTheFlightModel) {
   }
 }
 
+TEST_F(Browser, ShowsTheHiddenRowThatItFills) {
+  browser.DoFM();
+  auto& row = plane.table.G1.rows[kSpitfireRow];
+  row.hidden = true;
+  find_for_slot("Spit");
+  EXPECT_FALSE(row.hidden);
+  row.hidden = true;
+  lists.List3.selected = 4;
+  browser.List3_Click();
+  EXPECT_FALSE(row.hidden);
+}
+
 TEST_F(Browser, OverwritesWhatStandsInTheRowButKeepsAFilledRecordNumber) {
   store("Spit9/spit9.oaw", flight_model("Spitfire IX", "11", "5", "1"));
   for (int column = 1; column < PlaneTable::kColumns; ++column) {

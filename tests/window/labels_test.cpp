@@ -15,9 +15,7 @@ class Labels : public AircraftWindow {
   QStringList fixed_labels() {
     QStringList names;
     for (const QAbstractButton* label : window().findChildren<QAbstractButton*>()) {
-      if (label->isVisible() && label->inherits("QAbstractButton") && label->isCheckable() == false) {
-        names.append(label->objectName());
-      }
+      if (label->isVisible() && !label->isCheckable()) names.append(label->objectName());
     }
     for (const char* dragged : {"Label9(0)", "Label9(1)", "Label9(2)", "Label9(3)", "Label18", "Label5",
                                 "DelMSN", "Label7", "ExitButton"}) {

@@ -8,12 +8,6 @@
 
 namespace vorlund {
 
-namespace {
-
-constexpr int kBelow = 40;  // pixels that the status line takes
-
-}  // namespace
-
 GroupLabelsView::GroupLabelsView(Form1& form, const Perform& perform, QWidget* parent)
     : form_(form), perform_(perform), parent_(parent), area_(new QScrollArea(parent)), board_(new QWidget) {
   area_->setObjectName("GroupLabels");
@@ -53,7 +47,7 @@ void GroupLabelsView::apply() {
   const int scroll_bar = area_->horizontalScrollBar()->sizeHint().height() + 4;
   board_->resize(extent.size());
   // They were placed in columns for the height that the window had then.
-  const int room = parent_->height() - kBelow - origin.y();
+  const int room = theme::pixels(form_.selection.screen).height() - origin.y();
   area_->setGeometry(origin.x(), origin.y(), parent_->width() - origin.x() - 14,
                      std::min(extent.height() + scroll_bar, room));
   area_->setVisible(any);
