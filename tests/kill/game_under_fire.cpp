@@ -25,19 +25,19 @@ std::string patch_record(std::size_t first, const std::string& bytes) {
 }  // namespace
 
 GameUnderFire::GameUnderFire() {
-  const std::string careers = "Careers/\u00C9t\u00E9 1940/"s;
-  const std::string scenery = "SCENERY/W\u00FCste im Winter/"s;  // the record has it as "Scenery"
+  const std::string careers = kStore + "Careers/\u00C9t\u00E9 1940/"s;
+  const std::string scenery = kStore + "SCENERY/W\u00FCste im Winter/"s;  // the record has it as "Scenery"
 
   stay("readme.txt", "Read me first\r\n");
   stay("Savedata/Default1.msn", made_bytes(1, 900));
-  stay(kStore + careers + "contents.txt", "A summer\r\n");
-  stay(kStore + scenery + "MyPic", made_bytes(2, 3000));
-  stay(kStore + scenery + "ECA_old.tm", made_bytes(3, 700));
+  stay(careers + "contents.txt", "A summer\r\n");
+  stay(scenery + "MyPic", made_bytes(2, 3000));
+  stay(scenery + "ECA_old.tm", made_bytes(3, 700));
 
   create(careers + "mission1.msn", "Savedata/mission1.msn", made_bytes(4, 5000));
   replace("Savedata/c001.SVE", made_bytes(5, 9000), careers + "C001.sve", "Savedata/C001.sve",
           made_bytes(6, 9000));
-  stay(kStore + scenery + "planes.dat", made_bytes(8, 8000));
+  stay(scenery + "planes.dat", made_bytes(8, 8000));
   pass("planes.dat", made_bytes(8, 8000));
   go("~Vorlund/~vorlund.bak", made_bytes(19, 400));  // what an earlier crash has left
   go("~vorlund.bak", made_bytes(20, 400));
@@ -47,9 +47,10 @@ GameUnderFire::GameUnderFire() {
   replace("renamed.TER", made_bytes(12, 4000), scenery + "renamed.ter", "renamed.ter", made_bytes(12, 4000));
   create(scenery + "horizon.tpc", "horizon.tpc", made_bytes(13, 300000));
   create(scenery + "empty.fnt", "empty.fnt", "");
-  replace("Music/Theme.bgm", made_bytes(14, 20000), "Sounds/Night/THEME.BGM", "Music/THEME.BGM",
+  replace("Music/Theme.bgm", made_bytes(14, 20000), kStore + "Sounds/Night/THEME.BGM"s, "Music/THEME.BGM",
           made_bytes(15, 26000));
-  replace("Planes.dat", made_bytes(7, 8000), "Sounds/Night/Planes.DAT", "Planes.DAT", made_bytes(16, 7000));
+  replace("Planes.dat", made_bytes(7, 8000), kStore + "Sounds/Night/Planes.DAT"s, "Planes.DAT",
+          made_bytes(16, 7000));
 
   // A patch into the old executable, another executable, and two patches into that one that overlap; the
   // second makes it longer, and its file ends inside a record.
@@ -59,7 +60,7 @@ GameUnderFire::GameUnderFire() {
   const std::string once = with(new_game, 100, "AAAA");
   const std::string twice = with(with(once, 102, "BBBB"), 80000, "end");
   stay(kStore + "Patches/Fr\u00FCh/early.LDR"s, patch_record(16, "\x01\x02"));
-  stay(kStore + scenery + "EAW.EXE", new_game);
+  stay(scenery + "EAW.EXE", new_game);
   stay(kStore + "Patches/Sp\u00E4t/a first.ldr"s, patch_record(100, "AAAA"));
   stay(kStore + "Patches/Sp\u00E4t/B second.Ldr"s,
        patch_record(102, "BBBB") + patch_record(80000, "end") + patch_record(200, "cut").substr(0, 8));
