@@ -51,12 +51,32 @@ void refuse_shared_names(Environment& environment, const std::vector<std::string
                     "its name is that of \"" + pair[0] + "\" in another spelling; no save was moved");
 }
 
+/// A save replaces the one of its name at home. Where two spellings of that name stand there, it would take
+/// the place of both.
+void refuse_two_spellings_at_home(Environment& environment, const std::vector<std::string>& saves,
+                                  const std::string& home) {
+  const std::vector<FolderEntry> there = environment.files.entries(home);
+  for (const std::string& save : saves) {
+    const FolderEntry* first = nullptr;
+    for (const FolderEntry& entry : there) {
+      if (entry.kind != EntryKind::kFile || !same_name(entry.name, save)) continue;
+      if (first) {
+        throw ActionError("bring home the career save", environment.game.path(kSavedata) + "\\" + save,
+                          "\"" + home + "\" holds both \"" + std::min(first->name, entry.name) + "\" and \"" +
+                              std::max(first->name, entry.name) + "\"; no save was moved");
+      }
+      first = &entry;
+    }
+  }
+}
+
 std::uint64_t move_careers_home(Environment& environment, const std::string& name, FileList& savedata) {
   savedata.pattern = kCareerPattern;
   savedata.refresh(environment.files);
   if (savedata.names.empty()) return 0;
   const std::string home = careers_home(environment, name);
   refuse_shared_names(environment, savedata.names);
+  refuse_two_spellings_at_home(environment, savedata.names, home);
   for (const std::string& save : savedata.names) {
     const std::string source = environment.game.path(kSavedata) + "\\" + save;
     environment.files.copy_file(source, home + "\\" + save, Durability::kFlushed);

@@ -162,6 +162,19 @@ TEST_F(HostileCareers, TwoSavesThatDifferInCaseAloneAreNotMoved) {
   EXPECT_EQ(folder.tree(), before);
 }
 
+TEST_F(HostileCareers, ASaveThatWouldTakeThePlaceOfTwoAtHomeIsNotMoved) {
+  for (const char* name : {"C1.SVE", "c1.sve"})
+    folder.write(std::string("game/~Vorlund/GameStore/Careers/Camp1/") + name, "career one");
+  const Tree before = folder.tree();
+  EXPECT_FALSE(clean({{"Careers", "Camp1"}}));
+  EXPECT_EQ(folder.tree(), before);
+
+  const fs::path home = fs::path(folder.path()) / "game/~Vorlund/GameStore/Careers/Camp1";
+  fs::remove(home / "C1.SVE");
+  fs::create_directory(home / "C1.SVE");
+  EXPECT_TRUE(clean({{"Careers", "Camp1"}})) << "a folder is no save";
+}
+
 TEST_F(HostileCareers, LinksNeverTakeASaveOutOfTheStore) {
   const fs::path game = fs::path(folder.path()) / "game";
   const fs::path careers = game / "~Vorlund/GameStore/Careers";

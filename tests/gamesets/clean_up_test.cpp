@@ -72,6 +72,14 @@ TEST_F(CleanUpFiles, BringSavesToTheCareersGroupItselfWhereTheCareersRowIsCleare
   EXPECT_EQ(folder.read("~Vorlund/GameStore/Careers/c1.sve"), "career");
 }
 
+TEST_F(CleanUpFiles, BringSavesToTheCareersGroupItselfWhereTheLastOfTwoCareersRowsIsCleared) {
+  folder.make_folder("~Vorlund/GameStore/Careers/Camp1");
+  folder.write("Savedata/c1.sve", "career");
+  clean({{"Careers", "Camp1"}, {"Careers", ""}});
+  EXPECT_EQ(folder.read("~Vorlund/GameStore/Careers/c1.sve"), "career");
+  EXPECT_TRUE(folder.names("~Vorlund/GameStore/Careers/Camp1").empty());
+}
+
 TEST_F(CleanUpFiles, DeleteWhatTheMasksNameAndNothingElse) {
   const std::vector<std::string> deleted = {
       "planes.dat", "PNAMES.STR", "picplnb.mnu", "readme.txt", "mypic", "PlanePic", "skinpic",

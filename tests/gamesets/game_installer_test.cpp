@@ -141,6 +141,20 @@ TEST_F(GameInstaller, FindsASetFolderInAnySpelling) {
   EXPECT_EQ(folder.read("Snow.tm"), "snow");
 }
 
+#ifndef _WIN32
+
+TEST_F(GameInstaller, OfTwoSetFoldersThatDifferInCaseAloneTakesTheOneSpelledAsTheRow) {
+  store("Sky/Dusk/small.dat", "small");
+  store("Sky/DUSK/large.dat", "large");
+  install({{"Sky", "DUSK"}});
+  EXPECT_EQ(game_files(), (Tree{{"Music/", ""}, {"Savedata/", ""}, {"large.dat", "large"}}));
+  install({{"Sky", "Dusk"}});
+  EXPECT_EQ(game_files(),
+            (Tree{{"Music/", ""}, {"Savedata/", ""}, {"large.dat", "large"}, {"small.dat", "small"}}));
+}
+
+#endif
+
 TEST_F(GameInstaller, AnEmptySetFolderIsDoneWithAtOnce) {
   folder.make_folder("~Vorlund/GameStore/A/Empty");
   store("B/Two/b.dat", "b");
