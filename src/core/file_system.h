@@ -81,7 +81,7 @@ class FileSystem {
 
   /// Makes the target hold the source's bytes. Only bytes are copied: not times, not attributes. The target
   /// is spelled as its path spells it; another spelling of the name is gone afterwards. A target that already
-  /// holds them is not written, but is renamed where its spelling differs.
+  /// holds them is not written, but is renamed where its spelling differs, and flushed where that is asked.
   virtual CopyOutcome copy_file(std::string_view source, std::string_view target, Durability durability) = 0;
 
   /// Deletes the file.

@@ -229,7 +229,7 @@ CopyOutcome PosixFileSystem::copy_file(std::string_view source_path, std::string
   PosixTarget target = open_target(target_path, Spelling::kAsAsked);
   content_.take(source);
   if (target.readable() >= 0 && content_.known_same(source, target.readable())) {
-    return target.keep() ? CopyOutcome::kUnchanged : CopyOutcome::kWritten;
+    return target.keep(durability) ? CopyOutcome::kUnchanged : CopyOutcome::kWritten;
   }
   target.look();
 
@@ -237,7 +237,7 @@ CopyOutcome PosixFileSystem::copy_file(std::string_view source_path, std::string
     const bool one_file =
         target.status().st_dev == source.status.st_dev && target.status().st_ino == source.status.st_ino;
     if (one_file || content_.same_as(source, target.readable())) {
-      return target.keep() ? CopyOutcome::kUnchanged : CopyOutcome::kWritten;
+      return target.keep(durability) ? CopyOutcome::kUnchanged : CopyOutcome::kWritten;
     }
   }
   content_.write_to(source, target.begin(staging_), target_path);

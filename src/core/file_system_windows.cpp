@@ -155,7 +155,7 @@ CopyOutcome WindowsFileSystem::copy_file(std::string_view source_path, std::stri
   {
     const WindowsHandle existing = target.open_to_compare(source.size());
     if (existing.is_open() && content_.same(source, existing.get())) {
-      return target.keep() ? CopyOutcome::kUnchanged : CopyOutcome::kWritten;
+      return target.keep(durability) ? CopyOutcome::kUnchanged : CopyOutcome::kWritten;
     }
   }
   content_.copy(source, target.begin(), target_path);

@@ -88,11 +88,15 @@ void PosixTarget::look_at(const std::string& spelling) {
   current_ = spelling;
 }
 
-bool PosixTarget::keep() {
+bool PosixTarget::keep(Durability durability) {
   const bool as_asked = !looked_ || (current_ == name_ && others_.empty());
   if (!as_asked) {
     refuse_read_only_others();
     settle_spelling();
+  }
+  if (durability == Durability::kFlushed) {
+    if (::fsync(existing_.descriptor()) != 0) fail();
+    flush_folder();
   }
   return as_asked;
 }
@@ -149,11 +153,13 @@ bool PosixTarget::finish(Durability durability) {
   neighbour_folder_->name_removed(neighbour_);
   folder_->name_added(name_);
   neighbour_.clear();
-  if (durability == Durability::kFlushed) {
-    const FileHandle opened = open_at(folder_->descriptor(), ".", O_RDONLY | O_DIRECTORY);
-    if (!opened.is_open() || ::fsync(opened.descriptor()) != 0) fail();
-  }
+  if (durability == Durability::kFlushed) flush_folder();
   return true;
+}
+
+void PosixTarget::flush_folder() const {
+  const FileHandle opened = open_at(folder_->descriptor(), ".", O_RDONLY | O_DIRECTORY);
+  if (!opened.is_open() || ::fsync(opened.descriptor()) != 0) fail();
 }
 
 void PosixTarget::refuse_read_only_others() const {

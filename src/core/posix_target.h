@@ -39,7 +39,7 @@ class PosixTarget {
   const struct stat& status() const { return status_; }
 
   /// Keeps the file that is there, spelled as asked. True when it was spelled so and there was no other.
-  bool keep();
+  bool keep(Durability durability);
 
   /// Creates the neighbour, and returns it open for writing: in `staging` where that is given and can be
   /// written to, else beside the file. An error where the file must not be replaced.
@@ -59,6 +59,7 @@ class PosixTarget {
   void drop();
   void set_mode(mode_t mode);
   void settle_spelling();
+  void flush_folder() const;
   [[noreturn]] void fail() const;
 
   std::shared_ptr<PosixFolder> folder_;

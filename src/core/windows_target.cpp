@@ -71,9 +71,14 @@ WindowsHandle WindowsTarget::open_to_compare(std::uint64_t size) const {
   return open_existing(long_path_, GENERIC_READ, FILE_FLAG_SEQUENTIAL_SCAN);
 }
 
-bool WindowsTarget::keep() {
+bool WindowsTarget::keep(Durability durability) {
   const bool as_asked = !spelled_otherwise();
   settle_spelling();
+  const bool read_only = (existing_->dwFileAttributes & FILE_ATTRIBUTE_READONLY) != 0;
+  if (durability == Durability::kFlushed && !read_only) {
+    const WindowsHandle kept = open_existing(long_path_, GENERIC_WRITE, 0);
+    if (!kept.is_open() || FlushFileBuffers(kept.get()) == 0) fail();
+  }
   return as_asked;
 }
 

@@ -29,8 +29,9 @@ class WindowsTarget {
   /// The file that is there, opened for reading, when it is no link and has that size; else not open.
   WindowsHandle open_to_compare(std::uint64_t size) const;
 
-  /// Keeps the file that is there, spelled as asked. True when it was spelled so.
-  bool keep();
+  /// Keeps the file that is there, spelled as asked. True when it was spelled so. One that is marked
+  /// read-only can't be flushed and counts as being on the disk.
+  bool keep(Durability durability);
 
   /// Creates the neighbour, and returns it open for writing. An error where the file must not be replaced.
   HANDLE begin();

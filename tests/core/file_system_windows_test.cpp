@@ -88,6 +88,8 @@ TEST_F(WindowsFileSystemTest, AReadOnlyFileIsNeitherReplacedNorRemoved) {
   EXPECT_EQ(folder_.tree(), (Tree{{"Target", "old"}, {"source", "new"}}));
   folder_.write("equal", "old");
   EXPECT_EQ(copy("equal", "Target"), CopyOutcome::kUnchanged);
+  EXPECT_EQ(files_->copy_file(folder_.path("equal"), folder_.path("Target"), Durability::kFlushed),
+            CopyOutcome::kUnchanged);
 }
 
 TEST_F(WindowsFileSystemTest, AReadOnlyOrHiddenLeftOverNeighbourIsTakenOver) {

@@ -67,6 +67,11 @@ class ActionUnderFire : public testing::TestWithParam<int> {
     testing::Test::RecordProperty("kills", kills);
   }
 
+  /// The calls that the action makes about files, by name.
+  std::map<std::string, int> calls(const std::string& action) const {
+    return undisturbed(TracedProgram({HEADLESS_ACTION, action}, traces_.path() + "/trace")).during;
+  }
+
   /// Lets each call of this share fail, checks what is left, and then does the action again.
   void fail_each_call(const std::string& program_file, const std::string& action) const {
     const TracedProgram program({program_file, action}, traces_.path() + "/trace");
@@ -162,6 +167,7 @@ class ActionUnderFire : public testing::TestWithParam<int> {
 using InstallUnderFire = ActionUnderFire<GameUnderFire>;
 using AircraftInstallUnderFire = ActionUnderFire<AircraftUnderFire>;
 using CleanUpUnderFire = ActionUnderFire<CareersUnderFire>;
+class WatchedCleanUp : public CleanUpUnderFire {};
 
 TEST_P(InstallUnderFire, KilledLeavesWholeFilesAndIsMadeGoodByTheNextRun) {
   kill_at_each_call(HEADLESS_ACTION, "install");
@@ -173,6 +179,13 @@ TEST_P(AircraftInstallUnderFire, KilledLeavesWholeFilesAndIsMadeGoodByTheNextRun
 
 TEST_P(CleanUpUnderFire, KilledLosesNoCareerSaveAndIsCompletedByTheNextRun) {
   kill_at_each_call(HEADLESS_ACTION, "clean-up");
+}
+
+// Whether a save was copied, respelled or just the same at home: it is on the disk before it is deleted.
+TEST_P(WatchedCleanUp, FlushesEverySaveAndRecordWithItsFolder) {
+  constexpr int kSaves = 4;
+  constexpr int kRecords = 2;
+  EXPECT_EQ(calls("clean-up").at("fsync"), 2 * (kSaves + kRecords));
 }
 
 // Calls that fail one by one, as on a disk that goes bad.
@@ -207,6 +220,7 @@ TEST_P(CleanUpUnderFire, KilledInTheRealWindowLosesNoCareerSaveAndIsCompletedByT
 INSTANTIATE_TEST_SUITE_P(Shares, InstallUnderFire, testing::Range(0, kShares));
 INSTANTIATE_TEST_SUITE_P(Shares, AircraftInstallUnderFire, testing::Range(0, kShares));
 INSTANTIATE_TEST_SUITE_P(Shares, CleanUpUnderFire, testing::Range(0, kShares));
+INSTANTIATE_TEST_SUITE_P(Whole, WatchedCleanUp, testing::Values(0));
 
 }  // namespace
 }  // namespace vorlund::test
