@@ -36,7 +36,8 @@ TEST_F(Labels, ThatAreFixedTakeTheLeftButtonAlone) {
     EXPECT_TRUE(names.contains(name)) << name;
   }
   for (const QString& name : names) {
-    for (const Qt::MouseButton button : {Qt::RightButton, Qt::MiddleButton}) {
+    for (const Qt::MouseButton button :
+         {Qt::RightButton, Qt::MiddleButton, Qt::BackButton, Qt::ForwardButton}) {
       QTest::mouseClick(widget(name), button);
       EXPECT_EQ(folder.tree(), before) << name.toStdString();
       EXPECT_TRUE(sees("GameFrame") && sees("Frame1")) << name.toStdString();
@@ -46,6 +47,25 @@ TEST_F(Labels, ThatAreFixedTakeTheLeftButtonAlone) {
   }
   click("GameLoad");
   EXPECT_TRUE(folder.has("boom.snd")) << "the left button does act";
+}
+
+TEST_F(Labels, ThatCanBeDraggedTakeTheMiddleButtonForTheSavedSetUpsAlone) {
+  restart();
+  const auto before = folder.tree();
+  for (const Qt::MouseButton button : {Qt::MiddleButton, Qt::BackButton, Qt::ForwardButton}) {
+    for (const char* name :
+         {"Label9(0)", "Label9(1)", "Label9(2)", "Label18", "Label5", "DelMSN", "Label7", "ExitButton"}) {
+      QTest::mouseClick(widget(name), button);
+      EXPECT_FALSE(sees("Label1(0)")) << name;
+      EXPECT_EQ(form().selection.mode, PaneMode::kAircraftSet) << name;
+      EXPECT_FALSE(form().ended || form().minimise_wanted) << name;
+      EXPECT_EQ(folder.tree(), before) << name;
+    }
+  }
+  QTest::mouseClick(widget("Label9(3)"), Qt::BackButton);
+  EXPECT_FALSE(sees("Frame2"));
+  QTest::mouseClick(widget("Label9(3)"), Qt::MiddleButton);
+  EXPECT_TRUE(sees("Frame2"));
 }
 
 TEST_F(Labels, OfAPaneThatWasDraggedBeyondTheRimAreStillInReach) {

@@ -54,6 +54,13 @@ TEST_F(MenuEditorWindow, ACountryButtonReadsAndWritesNothing) {
   EXPECT_EQ(folder.tree(), before);
 }
 
+TEST_F(MenuEditorWindow, AClickOnWhatStandsInThePaneLeavesItOpen) {
+  for (const char* name : {"MnuFrame", "MnuFrameCaption", "hedlab", "mlen(0)", "position(0)"}) {
+    click_at(widget(name), QPoint(2, 2));
+    EXPECT_TRUE(sees("PMenFrame")) << name;
+  }
+}
+
 TEST_F(MenuEditorWindow, AClickOnTheFreeAreaHidesThePane) {
   click_at(widget("PMenFrame"), QPoint(400, 10));
   EXPECT_FALSE(sees("PMenFrame"));

@@ -17,6 +17,11 @@ int key_state(Qt::KeyboardModifiers modifiers) {
          (modifiers.testFlag(Qt::AltModifier) ? 4 : 0);
 }
 
+/// A mouse may have further buttons, which go back and forth in other programs: here they do nothing.
+bool is_known(Qt::MouseButton button) {
+  return button == Qt::LeftButton || button == Qt::RightButton || button == Qt::MiddleButton;
+}
+
 bool activates(const QKeyEvent& event) {
   return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter || event.key() == Qt::Key_Space;
 }
@@ -140,7 +145,7 @@ void ActionLabel::paintEvent(QPaintEvent*) {
 }
 
 void ActionLabel::mousePressEvent(QMouseEvent* event) {
-  if (held_ != Qt::NoButton) return;
+  if (held_ != Qt::NoButton || !is_known(event->button())) return;
   held_ = event->button();
   pressed_at_ = event->globalPosition();
   place_at_press_ = pos();

@@ -28,7 +28,7 @@ class ActionLabel : public QAbstractButton {
 
   /// Called for each press, and for each release that commands or ends a drag. The left button inside the
   /// label, Enter and Space command; a label that can be dragged also hands on the middle button inside it,
-  /// and the right one wherever it is released.
+  /// and the right one wherever it is released. Further buttons do nothing.
   std::function<void(const MouseEvent&)> on_press;
   std::function<void(const MouseEvent&)> on_release;
   std::function<void()> on_double_click;

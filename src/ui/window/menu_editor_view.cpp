@@ -143,6 +143,11 @@ void MenuEditorView::lay_out() {
   frame_->content()->addLayout(header);
   frame_->content()->addLayout(both, 1);
   frame_->content()->addWidget(note);
+  // Whoever clicks on a text or beside a name box does not mean to hide the pane.
+  for (QWidget* part : frame_->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+    part->setAttribute(Qt::WA_NoMousePropagation);
+    part->setCursor(Qt::ArrowCursor);
+  }
 }
 
 void MenuEditorView::apply() {

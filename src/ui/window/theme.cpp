@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QPalette>
+#include <QProxyStyle>
 #include <QStyleFactory>
 #include <QTextDocument>
 #include <cmath>
@@ -35,10 +36,22 @@ constexpr auto kStyleSheet = R"(
   QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
 )";
 
+/// Some desktops open what is clicked once; here a click selects and a double click opens.
+class ProgramStyle : public QProxyStyle {
+ public:
+  ProgramStyle() : QProxyStyle(QStyleFactory::create("Fusion")) {}
+
+  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                QStyleHintReturn* result) const override {
+    if (hint == SH_ItemView_ActivateItemOnSingleClick) return 0;
+    return QProxyStyle::styleHint(hint, option, widget, result);
+  }
+};
+
 }  // namespace
 
 void apply_to(QApplication& application) {
-  application.setStyle(QStyleFactory::create("Fusion"));
+  application.setStyle(new ProgramStyle);
   // Where the system's own font is not there, as often in Wine, the next best would have serifs.
   QFont font = QApplication::font();
   font.setFamilies(font.families() + QStringList{"Segoe UI", "Tahoma", "DejaVu Sans", "Liberation Sans"});
