@@ -21,6 +21,7 @@ struct Picture {
   PictureFile picture;
   PictureFile fallback;  ///< shown where `picture` is none or can't be decoded
   bool visible = true;
+  bool bordered = false;  ///< a single line runs round it
   Place place{};
 };
 

@@ -15,7 +15,7 @@ struct SharedLabels {
   Label Label44{"Current Slot Selection", false};  ///< heading of Label43 and Label45
   Label Label45{"", false};                        ///< skin folder that the slot of the shown skin holds now
   Label SkinLab2{"", false};                       ///< skin code of the viewed skin
-  Label SkinLab3{"", false};                       ///< plane number of the viewed skin, 0 to 29, as text
+  Label SkinLab3;                                  ///< plane number of the viewed skin, 0 to 29, as text
 
   /// What every "Hide" label (`Label10`) does after hiding its pane: the table can be brought back and
   /// nothing of the selection is shown any more.

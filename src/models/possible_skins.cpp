@@ -74,6 +74,7 @@ void PossibleSkins::List4_Click() {
   const std::string folder = environment_.game.path(kSkinFolders) + entry;
   environment_.labels.SkinLab2.visible = false;
   description_.text.clear();
+  Image4.bordered = true;
   Image4.picture = {};
   Image4.fallback = load_picture(environment_.files, environment_.game.path(kDefaultPicture));
   const bool plain = is_plain_name(Label31.caption) && is_plain_name(Label32.caption);

@@ -34,6 +34,9 @@ TEST_F(PossibleSkinsPane, ListsTheSkinsOfTheCurrentSlotAndViewsTheFirst) {
   EXPECT_EQ(skins.Label37.caption, "SP09");
   EXPECT_EQ(labels().SkinLab2.caption, "SP09");
   EXPECT_EQ(labels().SkinLab3.caption, "11");
+  EXPECT_TRUE(labels().SkinLab3.visible);
+  EXPECT_FALSE(labels().SkinLab2.visible);
+  EXPECT_TRUE(skins.Image4.bordered);
   EXPECT_TRUE(skins.Frame4.visible);
   EXPECT_TRUE(skins.Image4.visible);
   EXPECT_GT(skins.Frame4.depth, 0);

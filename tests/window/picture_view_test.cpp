@@ -70,6 +70,22 @@ TEST(Pictures, ThatAreDamagedOrMissingGiveWayToTheDefaultOne) {
   }
 }
 
+TEST(Pictures, HaveABorderWhereOneIsAskedFor) {
+  for (const bool bordered : {false, true}) {
+    PictureView view("Image4", PictureFit::kWhole, nullptr);
+    view.resize(40, 20);
+    Picture picture{picture_file("png", {20, 20}, kRed), {}};
+    view.apply(picture);
+    view.grab();
+    picture.bordered = bordered;
+    view.apply(picture);
+    const QImage shown = view.grab().toImage();
+    EXPECT_EQ(shown.pixelColor(10, 10) == kRed, !bordered) << "the left edge of the picture";
+    EXPECT_EQ(shown.pixelColor(20, 19) == kRed, !bordered) << "its lower edge";
+    EXPECT_EQ(shown.pixelColor(11, 10), kRed);
+  }
+}
+
 TEST(Pictures, OfAnEndlessShapeAreNoReasonToEnd) {
   const Picture line{picture_file("png", {3000, 1}, kRed), {}};
   EXPECT_EQ(decode_picture(line, {100, 100}, PictureFit::kWhole).size(), QSize(100, 1));

@@ -53,6 +53,7 @@ PictureView::PictureView(const QString& name, PictureFit fit, QWidget* parent) :
 void PictureView::apply(const Picture& picture) {
   const bool same =
       picture.picture.bytes == picture_.picture.bytes && picture.fallback.bytes == picture_.fallback.bytes;
+  if (picture.bordered != picture_.bordered) update();
   picture_ = picture;
   if (!same) {
     shown_for_ = QSize();
@@ -69,9 +70,15 @@ void PictureView::paintEvent(QPaintEvent*) {
     shown_for_ = device;
   }
   QPainter painter(this);
+  QRectF drawn = rect();
   if (!shown_.isNull()) {
-    const QSizeF drawn = shown_.deviceIndependentSize();
-    painter.drawPixmap(QPointF((width() - drawn.width()) / 2, (height() - drawn.height()) / 2), shown_);
+    const QSizeF size = shown_.deviceIndependentSize();
+    drawn = QRectF(QPointF((width() - size.width()) / 2, (height() - size.height()) / 2), size);
+    painter.drawPixmap(drawn.topLeft(), shown_);
+  }
+  if (picture_.bordered) {
+    painter.setPen(theme::kEdge);
+    painter.drawRect(drawn.adjusted(0.5, 0.5, -0.5, -0.5));
   }
   if (hasFocus()) theme::draw_plate(painter, rect(), QColor(0, 0, 0, 0), theme::kAccent);
 }

@@ -14,7 +14,8 @@ PossibleSkinsView::PossibleSkinsView(Form1& form, const Perform& perform, QWidge
       wanted_(new TextLabel("Label38", TextLabel::Tone::kHeading, frame_)),
       slot_heading_(new TextLabel("Label36", TextLabel::Tone::kQuiet, frame_)),
       slot_(new TextLabel("Label37", TextLabel::Tone::kStrong, frame_)),
-      plane_number_(new TextLabel("SkinLab3", TextLabel::Tone::kQuiet, frame_)),
+      number_heading_(new TextLabel(QString(), TextLabel::Tone::kQuiet, frame_)),
+      plane_number_(new TextLabel("SkinLab3", TextLabel::Tone::kStrong, frame_)),
       match_heading_(new TextLabel("Label34", TextLabel::Tone::kQuiet, frame_)),
       match_(new TextLabel("Label35", TextLabel::Tone::kStrong, frame_)),
       list_heading_(new TextLabel("List4Heading", TextLabel::Tone::kQuiet, frame_)),
@@ -52,9 +53,12 @@ PossibleSkinsView::PossibleSkinsView(Form1& form, const Perform& perform, QWidge
 
 void PossibleSkinsView::lay_out() {
   list_heading_->setText("Possible skins");
+  number_heading_->setText("PlnDat:");
   auto* numbers = new QHBoxLayout;
   numbers->addWidget(slot_heading_);
   numbers->addWidget(slot_);
+  numbers->addSpacing(12);
+  numbers->addWidget(number_heading_);
   numbers->addWidget(plane_number_);
   numbers->addStretch(1);
   auto* matched = new QHBoxLayout;
@@ -93,6 +97,7 @@ void PossibleSkinsView::apply() {
   slot_heading_->apply(pane.Label36);
   slot_->apply(pane.Label37);
   plane_number_->apply(form_.labels().SkinLab3);
+  number_heading_->setVisible(!form_.labels().SkinLab3.caption.empty());
   match_heading_->apply(pane.Label34);
   match_->apply(pane.Label35);
   skins_->apply(pane.List4.selected);

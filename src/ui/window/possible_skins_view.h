@@ -27,6 +27,7 @@ class PossibleSkinsView : public PaneView {
   TextLabel* wanted_;
   TextLabel* slot_heading_;
   TextLabel* slot_;
+  TextLabel* number_heading_;
   TextLabel* plane_number_;
   TextLabel* match_heading_;
   TextLabel* match_;
