@@ -65,7 +65,7 @@ void FlightModelBrowser::DoFM() {
   selection_.Dir1.open(environment_.files, environment_.game.path(kSkinStore));
   Dir3.path = flight_model_group_folder(environment_, plane_.table);
   Dir3.names = Dir3.path.empty() ? std::vector<std::string>() : list_folders(environment_.files, Dir3.path);
-  environment_.labels.Label2.caption = "Show Plane Table";
+  selection_.work_on(PaneMode::kAircraftSet);
   selection_.make_group_labels(selection_.Dir1.names);
   lists_.List2.items = Dir3.names;
   lists_.List2.selected = -1;
@@ -133,7 +133,8 @@ std::vector<FlightModelBrowser::SkinLabel> FlightModelBrowser::open_every_group(
 }
 
 void FlightModelBrowser::match_skins(const std::string& flight_model) {
-  if (selection_.mode != PaneMode::kAircraftSet) {
+  const bool groups_are_gone = !selection_.Label1.front().visible && !selection_.Dir1.names.empty();
+  if (selection_.mode != PaneMode::kAircraftSet || groups_are_gone) {
     environment_.status.outcome(
         "Skins are matched in the aircraft settings alone: open them from the menu first");
     return;

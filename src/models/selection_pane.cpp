@@ -32,6 +32,13 @@ SelectionPane::SelectionPane(Environment& environment, GamePane& game, PlanePane
   Image1.visible = false;
 }
 
+void SelectionPane::work_on(PaneMode work) {
+  mode = work;
+  environment_.labels.Label2.caption = work == PaneMode::kAircraftSet ? "Show Plane Table"
+                                       : work == PaneMode::kGameSet   ? "Show Game Table"
+                                                                      : "";
+}
+
 void SelectionPane::Label1Make() {
   Label label = Label1.back();
   label.visible = true;

@@ -44,6 +44,9 @@ class SelectionPane {
   Label Label41{"Bring the table to the front", false};
   Label Label10{"Hide"};  ///< element 2 of the "Hide" labels
 
+  /// Makes this the running work: `Label2` then brings its table back, if it has one.
+  void work_on(PaneMode work);
+
   /// Loads the next element of `Label1`: below the one before it, or at the top of a new column.
   void Label1Make();
 

@@ -124,7 +124,7 @@ void Form1::Label9_MouseUp(int index, const MouseEvent& event) {
   }
   if (event.button != MouseButton::kLeft) return;
   selection.remove_group_labels();
-  selection.mode = static_cast<PaneMode>(index);
+  selection.work_on(static_cast<PaneMode>(index));
   switch (selection.mode) {
     case PaneMode::kAircraftSet:
       open_aircraft_work();
@@ -148,7 +148,6 @@ void Form1::open_aircraft_work() {
 
 void Form1::open_game_work() {
   selection.Dir1.open(environment.files, directory.path(kGameStore));
-  labels_.Label2.caption = "Show Game Table";
   selection.make_group_labels(selection.Dir1.names);
   game.table.g2update();
   selection.Label41.visible = true;
@@ -157,7 +156,6 @@ void Form1::open_game_work() {
 }
 
 void Form1::open_flight_model_choice() {
-  labels_.Label2.caption.clear();
   selection.Dir5.open(environment.files, directory.path(kFlightModels));
   selection.make_group_labels(selection.Dir5.names);
   say_next(selection.Dir5, kFlightModels, "Choose the group that all flight models are taken from");
@@ -239,6 +237,18 @@ void Form1::WhatsLoaded_Click() {
 void Form1::Image4_Click() {
   possible_skins.Image4_Click();
   browser.apply_matched_skin();
+}
+
+void Form1::Label19_Click() {
+  load_pane.Label19_Click();
+  // Without a running work "Label2" would bring no table back: then it is that of the set-up last loaded.
+  const bool idle = labels_.Label2.caption.empty() && !selection.Label1.front().visible;
+  if (!idle) return;
+  if (!load_pane.Label21.caption.empty()) {
+    selection.work_on(PaneMode::kGameSet);
+  } else if (!load_pane.Label20.caption.empty()) {
+    selection.work_on(PaneMode::kAircraftSet);
+  }
 }
 
 void Form1::Label28_Click() {

@@ -108,6 +108,7 @@ class Form1 {
 
   // Handlers whose work crosses panes.
   void Label17_Click();
+  void Label19_Click();
   void Label28_Click();
   void Image4_Click();
 

@@ -109,6 +109,17 @@ TEST_F(SkinMatching, LeavesTheCountAndThePaneWhereTheStoreHasNoSkin) {
   EXPECT_EQ(last_outcome(), "The skin store has no skin to match with \"Spit9\"");
 }
 
+TEST_F(SkinMatching, SaysThatTheGroupsAreGoneWhereAnotherCommandHasRemovedThem) {
+  make_skin("RAF/Spit9", {"psp09.3dz"});
+  match("Typhoon");
+  skins.Frame4.visible = false;
+  selection.remove_group_labels();
+  click("Typhoon");
+  EXPECT_FALSE(skins.Frame4.visible);
+  EXPECT_EQ(last_outcome(),
+            "Skins are matched in the aircraft settings alone: open them from the menu first");
+}
+
 TEST_F(SkinMatching, ListsEachGroupOnceHoweverOftenTheNameIsCut) {
   for (int group = 0; group < 4; ++group) make_skin("Group " + std::to_string(group) + "/Emil", {});
   folder.make_folder("~Vorlund/FlightModels/Late/_____________");

@@ -43,6 +43,40 @@ TEST_F(Work, AGameSetIsComposedInstalledAndShownAtTheNextStart) {
   EXPECT_EQ(form->game.table.G2.cell(4, GameTable::kFolder), "Fire");
 }
 
+TEST_F(Work, ATableThatWasLoadedWithoutARunningWorkIsBroughtBack) {
+  const std::string game_set = "Folder group\tFolder name\r\nSky\tDusk\r\n";
+  folder.write("~Vorlund/GameSetFiles/Spring", game_set);
+  folder.write("~Vorlund/PlaneSetFiles/Spring", "Standard\r\nSlot\r\n");
+  for (const bool game : {true, false}) {
+    start().Label9_MouseUp(2, left());
+    form->Label9_MouseUp(3, left());
+    if (game) form->load_pane.File3_Click(0);
+    form->load_pane.File2_Click(0);
+    form->load_pane.Check1.checked = true;
+    form->Label19_Click();
+    form->game.Label10_Click();
+    form->plane.Label10_Click();
+    EXPECT_FALSE(form->game.GameFrame.visible || form->plane.Frame1.visible);
+    EXPECT_TRUE(form->labels().Label2.visible);
+    EXPECT_EQ(form->labels().Label2.caption, game ? "Show Game Table" : "Show Plane Table");
+    form->selection.Label2_Click();
+    EXPECT_EQ(form->game.GameFrame.visible, game);
+    EXPECT_EQ(form->plane.Frame1.visible, !game);
+  }
+}
+
+TEST_F(Work, ALoadedSetUpLeavesTheRunningWorkAsItIs) {
+  folder.write("~Vorlund/GameSetFiles/Spring", "Folder group\tFolder name\r\nSky\tDusk\r\n");
+  start().Label9_MouseUp(2, left());
+  form->load_pane.Label12_Click();
+  form->load_pane.File3_Click(0);
+  form->load_pane.Check1.checked = true;
+  form->Label19_Click();
+  EXPECT_EQ(form->selection.mode, PaneMode::kFlightModelGroup);
+  form->selection.Label1_Click(0);
+  EXPECT_EQ(form->plane.table.flight_model_group(), "Standard");
+}
+
 TEST_F(Work, ClearingARowOfTheLastGroupRemovesIt) {
   start().Label9_MouseUp(1, left());
   form->game.G2_Click(3);

@@ -55,7 +55,7 @@ LoadPaneView::LoadPaneView(Form1& form, const Perform& perform, QWidget* parent)
   other_view_->setEnabled(false);
   other_view_->setAttribute(Qt::WA_NoMousePropagation);
   other_view_->setToolTip("The box beside it governs both lists");
-  load_->on_release = [f, perform](const MouseEvent&) { perform([&] { f->load_pane.Label19_Click(); }); };
+  load_->on_release = [f, perform](const MouseEvent&) { perform([&] { f->Label19_Click(); }); };
   cancel_->on_release = [f, perform](const MouseEvent&) { perform([&] { f->load_pane.Label40_Click(); }); };
   backdrop_->setFocusPolicy(Qt::NoFocus);
   backdrop_->setAttribute(Qt::WA_TransparentForMouseEvents);
