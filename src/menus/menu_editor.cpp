@@ -87,7 +87,7 @@ void MenuEditor::pmenwrite() {
 
 void MenuEditor::set_name(int index, std::string_view text) {
   std::string& name = bmnutb.at(static_cast<std::size_t>(index)).text;
-  std::string cut = characters(text, 0, kLongestName);
+  std::string cut = characters(text.substr(0, text.find('\0')), 0, kLongestName);
   if (cut == name) return;
   name = std::move(cut);
   bmnutb_Change(index);

@@ -206,6 +206,12 @@ TEST_F(MenuEditorPane, NamesAreCutTo254CharactersWhateverTheirBytesInMemory) {
   EXPECT_EQ(length(1), "255");
 }
 
+TEST_F(MenuEditorPane, ANameEndsAtAZeroCharacter) {
+  editor.set_name(0, std::string_view("P-51\0D", 6));
+  EXPECT_EQ(shown(0), "P-51");
+  EXPECT_EQ(length(0), "5");
+}
+
 TEST_F(MenuEditorPane, IsShownInFrontAndHiddenByAClick) {
   folder.write("picplnb.mnu", test::sample_menu(kNineNames));
   Frame other;

@@ -35,7 +35,7 @@ TEST_F(SkinSelection, OpeningAGroupListsItsSkinsAndHidesTheTables) {
 }
 
 TEST_F(SkinSelection, ShowsTheCodeNumberAndWhatTheSlotHoldsNow) {
-  make_skin("RAF/Mk9", {"psp09.3dz"});
+  make_skin("RAF/Mk9", {"pxxxx.3dz", "psp09.3dz"});
   plane.table.G1.set_cell(kSpitfireRow, PlaneTable::kRegion, "Old group");
   plane.table.G1.set_cell(kSpitfireRow, PlaneTable::kSkinFolder, "Old skin");
   open("RAF", "Mk9");

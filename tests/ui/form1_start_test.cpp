@@ -107,7 +107,15 @@ TEST(StartElsewhere, OutsideAGameFolderGivesEmptyTablesAndNoPictures) {
   Form1 form(files, window, {1, 0, 60});
   form.Form_Load();
   EXPECT_EQ(form.game.table.G2.row_count(), 1);
-  EXPECT_EQ(form.background.picture.bytes, nullptr);
+  EXPECT_EQ(form.plane.table.flight_model_group(), "");
+  for (int row = 1; row < form.plane.table.G1.row_count(); ++row) {
+    for (int column = PlaneTable::kRegion; column < form.plane.table.G1.columns; ++column) {
+      EXPECT_EQ(form.plane.table.G1.cell(row, column), "");
+    }
+  }
+  for (const Picture* picture : {&form.background, &form.load_pane.Image2, &form.selection.Image3}) {
+    EXPECT_EQ(picture->picture.bytes, nullptr);
+  }
   EXPECT_FALSE(form.WhatsLoaded.visible);
   EXPECT_TRUE(folder.tree().empty()) << "start-up must not make anything in a folder without a store";
 }
