@@ -72,7 +72,8 @@ TEST(Pictures, ThatAreDamagedOrMissingGiveWayToTheDefaultOne) {
 
 TEST(Pictures, HaveABorderWhereOneIsAskedFor) {
   for (const bool bordered : {false, true}) {
-    PictureView view("Image4", PictureFit::kWhole, nullptr);
+    QWidget window;  // Windows gives one of its own a least width
+    PictureView view("Image4", PictureFit::kWhole, &window);
     view.resize(40, 20);
     Picture picture{picture_file("png", {20, 20}, kRed), {}};
     view.apply(picture);
