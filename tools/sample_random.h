@@ -9,18 +9,11 @@ namespace vorlund::sample {
 /// SplitMix64.
 class Random {
  public:
-  explicit Random(std::uint64_t seed) : state_(seed) {}
-
-  /// Seeded by a name, so that what is made for it does not depend on what was made before.
-  explicit Random(std::string_view name) : state_(seed_of(name)) {}
-
-  /// FNV-1a of the bytes.
-  static constexpr std::uint64_t seed_of(std::string_view name) {
-    std::uint64_t hash = 0xCBF29CE484222325u;
+  /// Seeded by a name, so that what is made for it does not depend on what was made before: FNV-1a.
+  explicit Random(std::string_view name) {
     for (const char character : name) {
-      hash = (hash ^ static_cast<unsigned char>(character)) * 0x100000001B3u;
+      state_ = (state_ ^ static_cast<unsigned char>(character)) * 0x100000001B3u;
     }
-    return hash;
   }
 
   std::uint64_t next() {
@@ -37,15 +30,8 @@ class Random {
     return low + static_cast<int>(next() % range);
   }
 
-  /// A number from `low` up to `high`.
-  double real(double low, double high) {
-    return low + (high - low) * (static_cast<double>(next() >> 11) * 0x1.0p-53);
-  }
-
-  bool chance(double probability) { return real(0, 1) < probability; }
-
  private:
-  std::uint64_t state_;
+  std::uint64_t state_ = 0xCBF29CE484222325u;
 };
 
 }  // namespace vorlund::sample

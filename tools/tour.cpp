@@ -69,9 +69,9 @@ Tour::Choice Tour::folder_with(const QStringList& groups, const QString& mask, q
   return found;
 }
 
-Tour::Tour(MainWindow& window, const QSize& size, const QDir& folder, int& next_number)
+Tour::Tour(MainWindow& window, const QDir& folder, int& next_number)
     : window_(window), hand_(window), folder_(folder), next_number_(next_number) {
-  window_.resize(size);
+  window_.resize(1280, 800);
   hand_.wait();
 }
 

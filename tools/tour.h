@@ -3,7 +3,6 @@
 
 #include <QDir>
 #include <QPixmap>
-#include <QSize>
 #include <QString>
 #include <QStringList>
 
@@ -16,8 +15,8 @@ namespace vorlund {
 /// has nothing for are left out, and it says so. Throws std::runtime_error where a step fails.
 class Tour {
  public:
-  /// The window gets `size`. Screenshots go into `folder`, numbered from `next_number` on.
-  Tour(MainWindow& window, const QSize& size, const QDir& folder, int& next_number);
+  /// Screenshots go into `folder`, numbered from `next_number` on.
+  Tour(MainWindow& window, const QDir& folder, int& next_number);
 
   /// From the start to an installed game set, an installed aircraft set and the saved set-ups; ends with
   /// "Exit".

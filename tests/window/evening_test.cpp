@@ -114,14 +114,11 @@ class Evening : public ProgramWindow {
              {"Careers", "Harker, 611 Squadron"},
              {"Cockpits", ""},
              {"Hangar screens", ""},
-             {"Horizons", ""},
              {"Missions", ""},
              {"Music", ""},
              {"Patches", ""},
              {"Scenery", ""},
              {"Sky and clouds", "Dusk and dawn"},
-             {"Sounds", ""},
-             {"Targets", ""},
              {"Terrain", ""},
              {"Tweaks", "Longer contrails"}};
     restart();
@@ -151,13 +148,13 @@ class Evening : public ProgramWindow {
     click("Label2");
     click_game_row("See farther");
     click("Label29");
-    std::rotate(games.begin() + 8, games.begin() + 9, games.end());
+    std::rotate(games.begin() + 7, games.begin() + 8, games.end());
     click_game_row("Dusk and dawn");
     click("Label28");
-    games[9].second.clear();
+    games[8].second.clear();
     click_game_row("Longer contrails");
     click("Label28");
-    games.erase(games.begin() + 13);
+    games.erase(games.begin() + 10);
     click("GameLoad");
     EXPECT_FALSE(sees("GameFrame"));
     expected->install(games);
@@ -187,6 +184,7 @@ class Evening : public ProgramWindow {
     std::vector<Slot> unshaped;
     for (int record = 0; record < 30; ++record) {
       const Slot& slot = aircraft.rows[static_cast<std::size_t>(record)];
+      if (slot[2].empty()) continue;  // an aircraft that the store has no skin for
       if (!expected->has_shapes(slot)) unshaped.push_back(slot);
       if (!expected->has_shapes(slot)) continue;
       click_cell(record + 1, 1);
