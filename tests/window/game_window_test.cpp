@@ -79,7 +79,7 @@ TEST_F(GameWindow, AGameSetIsComposedInstalledAndShownAtTheNextStart) {
   EXPECT_EQ(games().cell(2, GameTable::kFolder), "");
   click("GameLoad");
   EXPECT_FALSE(sees("GameFrame"));
-  EXPECT_EQ(status(), "3 folders, 3 files copied, 1 kept in the store, 0 patches into eaw.exe");
+  EXPECT_EQ(status(), "3 folders, 3 files copied, 1 kept in the store");
   EXPECT_EQ(folder.read("Snow.TM"), "snow");
   EXPECT_EQ(folder.read("fire.dat"), "fire");
   EXPECT_FALSE(folder.has("Sky.PAL"));
@@ -151,9 +151,9 @@ TEST_F(GameWindow, DetailsAndPictureCanBeHidden) {
   EXPECT_FALSE(sees("Label27(0)"));
   click(label_of("SelLab", "Winter"));
   EXPECT_TRUE(sees("Image1"));
-  EXPECT_TRUE(sees("Text1"));
-  click("Label27(1)");
   EXPECT_FALSE(sees("Text1"));
+  click("Label27(1)");
+  EXPECT_TRUE(sees("Text1"));
   click("Label27(0)");
   EXPECT_FALSE(sees("Image1"));
   click("Label10(2)");

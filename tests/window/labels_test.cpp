@@ -50,6 +50,7 @@ TEST_F(Labels, ThatAreFixedTakeTheLeftButtonAlone) {
 }
 
 TEST_F(Labels, ThatCanBeDraggedTakeTheMiddleButtonForTheSavedSetUpsAlone) {
+  folder.write("Savedata/Default1.msn", "deleted by a left click");
   restart();
   const auto before = folder.tree();
   for (const Qt::MouseButton button : {Qt::MiddleButton, Qt::BackButton, Qt::ForwardButton}) {
@@ -66,6 +67,8 @@ TEST_F(Labels, ThatCanBeDraggedTakeTheMiddleButtonForTheSavedSetUpsAlone) {
   EXPECT_FALSE(sees("Frame2"));
   QTest::mouseClick(widget("Label9(3)"), Qt::MiddleButton);
   EXPECT_TRUE(sees("Frame2"));
+  click("DelMSN");
+  EXPECT_FALSE(folder.has("Savedata/Default1.msn"));
 }
 
 TEST_F(Labels, OfAPaneThatWasDraggedBeyondTheRimAreStillInReach) {

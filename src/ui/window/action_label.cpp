@@ -12,13 +12,15 @@ namespace vorlund {
 
 namespace {
 
+constexpr double kDimmed = 0.4;
+
 int key_state(Qt::KeyboardModifiers modifiers) {
   return (modifiers.testFlag(Qt::ShiftModifier) ? 1 : 0) + (modifiers.testFlag(Qt::ControlModifier) ? 2 : 0) +
          (modifiers.testFlag(Qt::AltModifier) ? 4 : 0);
 }
 
 /// A mouse may have further buttons, which go back and forth in other programs: here they do nothing.
-bool is_known(Qt::MouseButton button) {
+bool has_a_use(Qt::MouseButton button) {
   return button == Qt::LeftButton || button == Qt::RightButton || button == Qt::MiddleButton;
 }
 
@@ -129,8 +131,12 @@ bool ActionLabel::event(QEvent* event) {
 
 void ActionLabel::paintEvent(QPaintEvent*) {
   QPainter painter(this);
+  const bool working = window()->property(theme::kWorkingProperty).toBool();
+  if (working && text() != QLatin1String(kWorkingCaption)) painter.setOpacity(kDimmed);
   const QColor edge = look_ == Look::kPlate ? theme::kPlateEdge : QColor(0, 0, 0, 0);
-  theme::draw_plate(painter, rect(), fill(), hasFocus() ? theme::kAccent : edge);
+  // A golden edge would not be seen round the golden main command.
+  const QColor focus_edge = look_ == Look::kPrimary ? theme::kText : theme::kAccent;
+  theme::draw_plate(painter, rect(), fill(), hasFocus() ? focus_edge : edge);
   painter.setPen(look_ == Look::kPrimary ? theme::kField : marked() ? text_colour_ : theme::kText);
   painter.setFont(shown_font());
   const QRect area = text_area();
@@ -145,7 +151,7 @@ void ActionLabel::paintEvent(QPaintEvent*) {
 }
 
 void ActionLabel::mousePressEvent(QMouseEvent* event) {
-  if (held_ != Qt::NoButton || !is_known(event->button())) return;
+  if (held_ != Qt::NoButton || !has_a_use(event->button())) return;
   held_ = event->button();
   pressed_at_ = event->globalPosition();
   place_at_press_ = pos();

@@ -22,7 +22,7 @@ GamePaneView::GamePaneView(Form1& form, const Perform& perform, QWidget* parent)
       table_->on_move = [f, perform](int row, int) { perform([&] { f->game.G2_Click(row); }); };
   process_->on_release = [f, perform](const MouseEvent&) { perform([&] { f->game.GameLoad_Click(); }); };
   clear_->on_release = [f, perform](const MouseEvent&) { perform([&] { f->Label28_Click(); }); };
-  move_->on_release = [f, perform](const MouseEvent&) { perform([&] { f->game.Label29_Click(); }); };
+  move_->on_release = [f, perform](const MouseEvent&) { perform([&] { f->Label29_Click(); }); };
   save_->on_release = [f, perform](const MouseEvent&) { perform([&] { f->save_pane.Label11_Click(); }); };
   load_->on_release = [f, perform](const MouseEvent&) { perform([&] { f->load_pane.Label12_Click(); }); };
   hide_->on_release = [f, perform](const MouseEvent&) { perform([&] { f->game.Label10_Click(); }); };

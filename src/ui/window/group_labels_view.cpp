@@ -12,6 +12,7 @@ GroupLabelsView::GroupLabelsView(Form1& form, const Perform& perform, QWidget* p
     : form_(form), perform_(perform), parent_(parent), area_(new QScrollArea(parent)), board_(new QWidget) {
   area_->setObjectName("GroupLabels");
   area_->setFrameShape(QFrame::NoFrame);
+  area_->setFocusPolicy(Qt::NoFocus);
   area_->setWidget(board_);
   area_->viewport()->setAutoFillBackground(false);
   board_->setAutoFillBackground(false);

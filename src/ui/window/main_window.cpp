@@ -119,13 +119,55 @@ void MainWindow::perform(const std::function<void()>& handler) {
     handler();
     progress_bar_->hide();
     progress_text_->hide();
+    end_working();
     apply();
+    if (close_wanted_) form_->ended = true;
     running_ = false;
     follow_requests();
   } catch (const std::exception& error) {
+    end_working();
     report(error);
   }
   running_ = false;
+}
+
+/// Shows that clicks and keys do nothing for the moment, and drops them.
+void MainWindow::begin_working() {
+  if (working_ || !running_) return;
+  working_ = true;
+  setProperty(theme::kWorkingProperty, true);
+  QApplication::setOverrideCursor(Qt::WaitCursor);
+  qApp->installEventFilter(this);
+}
+
+void MainWindow::end_working() {
+  if (!working_) return;
+  QGuiApplication::sync();  // so that what was clicked until now arrives, and is dropped
+  qApp->removeEventFilter(this);
+  QApplication::restoreOverrideCursor();
+  setProperty(theme::kWorkingProperty, false);
+  working_ = false;
+}
+
+bool MainWindow::eventFilter(QObject*, QEvent* event) {
+  switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseMove:
+    case QEvent::Wheel:
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+    case QEvent::Shortcut:
+    case QEvent::ShortcutOverride:
+    case QEvent::TouchBegin:
+    case QEvent::TouchUpdate:
+    case QEvent::TouchEnd:
+    case QEvent::ContextMenu:
+      return true;
+    default:
+      return false;
+  }
 }
 
 void MainWindow::report(const std::exception& error) {
@@ -147,7 +189,7 @@ void MainWindow::apply() {
   form_->selection.screen = {0, 0, theme::twips(width()), theme::twips(height() - kStatusHeight)};
   if (form_->selection.Frame3.visible) form_->selection.Frame3.place = form_->selection.screen;
   for (const auto& view : views_) view->apply();
-  apply_order();
+  follow_panes();
   status_text_->setText(QString::fromStdString(form_->status_line().caption));
   status_text_->setVisible(progress_bar_->isHidden());
   place_status_bar();
@@ -164,34 +206,44 @@ void MainWindow::place_status_bar() {
   status_bar_->setGeometry(0, height() - high, width(), high);
 }
 
-void MainWindow::apply_order() {
-  std::vector<int> order;
-  for (const auto& [widget, frame] : frames_) order.push_back(frame->depth);
-  if (order == shown_order_) return;
-  shown_order_ = order;
+/// Puts the panes in their order, and the focus where the user looks.
+void MainWindow::follow_panes() {
   std::vector<std::pair<PaneFrame*, const Frame*>> sorted = frames_;
   std::stable_sort(sorted.begin(), sorted.end(),
                    [](const auto& a, const auto& b) { return a.second->depth < b.second->depth; });
+  std::vector<int> order;
+  std::vector<QWidget*> shown;
+  for (const auto& [widget, frame] : frames_) order.push_back(frame->depth);
   for (const auto& [widget, frame] : sorted) {
-    widget->raise();
-    if (frame == &form_->selection.Frame3) menu_->raise_table_labels();
+    if (frame->visible) shown.push_back(widget);
   }
-  status_bar_->raise();
+  if (order != shown_order_) {
+    shown_order_ = order;
+    for (const auto& [widget, frame] : sorted) {
+      widget->raise();
+      if (frame == &form_->selection.Frame3) menu_->raise_table_labels();
+    }
+    status_bar_->raise();
+  }
+  focus_.follow(shown);
 }
 
 void MainWindow::repaint() {
+  begin_working();
   apply();
   QWidget::repaint();
   keep_alive();
 }
 
 void MainWindow::progress(const Progress& progress) {
+  begin_working();
   if (progress_bar_->isVisible() && painted_.elapsed() < kPaintEveryMilliseconds) return;
   status_text_->hide();
   progress_bar_->setValue(static_cast<int>(progress.fraction * 1000));
   progress_bar_->show();
   progress_text_->setText(
-      QString::fromUtf8(progress.file.data(), static_cast<qsizetype>(progress.file.size())));
+      close_wanted_ ? QStringLiteral("Vorlund closes when this is done")
+                    : QString::fromUtf8(progress.file.data(), static_cast<qsizetype>(progress.file.size())));
   progress_text_->show();
   keep_alive();
 }
@@ -202,7 +254,7 @@ void MainWindow::pulse() {
 
 void MainWindow::keep_alive() {
   painted_.restart();
-  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+  QCoreApplication::processEvents();
 }
 
 void MainWindow::paintEvent(QPaintEvent*) {
@@ -225,6 +277,8 @@ void MainWindow::resizeEvent(QResizeEvent*) {
 
 void MainWindow::closeEvent(QCloseEvent* event) {
   if (running_) {
+    close_wanted_ = true;
+    progress_text_->setText("Vorlund closes when this is done");
     event->ignore();
     return;
   }

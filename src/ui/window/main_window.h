@@ -13,6 +13,7 @@
 
 #include "core/status.h"
 #include "ui/form1.h"
+#include "ui/window/focus_keeper.h"
 #include "ui/window/pane_frame.h"
 #include "ui/window/pane_view.h"
 
@@ -33,7 +34,7 @@ class MainWindow : public QWidget, private Status {
   Form1& form() { return *form_; }
 
   /// Runs a handler and shows the state it left. An exception is reported, and the program ends with exit
-  /// code 1. While a handler runs no other is started.
+  /// code 1. While a handler runs no other is started; what is clicked and typed while it works is dropped.
   void perform(const std::function<void()>& handler);
 
   /// True once an error has ended the program.
@@ -46,6 +47,8 @@ class MainWindow : public QWidget, private Status {
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
+  bool focusNextPrevChild(bool next) override { return focus_.step(next); }
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   void repaint() override;
@@ -54,11 +57,13 @@ class MainWindow : public QWidget, private Status {
 
   void add_views();
   void apply();
-  void apply_order();
+  void follow_panes();
   void place_status_bar();
   void follow_requests();
   void report(const std::exception& error);
   void keep_alive();
+  void begin_working();
+  void end_working();
 
   std::function<void(const QString&)> report_error_;
   std::unique_ptr<Form1> form_;
@@ -66,6 +71,7 @@ class MainWindow : public QWidget, private Status {
   MenuView* menu_ = nullptr;
   std::vector<std::pair<PaneFrame*, const Frame*>> frames_;
   std::vector<int> shown_order_;
+  FocusKeeper focus_{*this};
   QWidget* status_bar_ = nullptr;
   QLabel* status_text_ = nullptr;
   QProgressBar* progress_bar_ = nullptr;
@@ -74,6 +80,8 @@ class MainWindow : public QWidget, private Status {
   QPixmap background_;
   QSize background_for_;
   bool running_ = false;
+  bool working_ = false;  ///< the running handler has asked for the screen: it is a long one
+  bool close_wanted_ = false;
   bool failed_ = false;
   bool started_ = false;
   bool pressed_ = false;

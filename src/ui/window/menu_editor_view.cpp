@@ -110,6 +110,7 @@ void MenuEditorView::add_heading(QGridLayout* grid, int column, const QString& t
 void MenuEditorView::lay_out() {
   auto* area = new QScrollArea(frame_);
   area->setFrameShape(QFrame::NoFrame);
+  area->setFocusPolicy(Qt::NoFocus);
   area->setWidgetResizable(true);
   area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   area->setWidget(board_);

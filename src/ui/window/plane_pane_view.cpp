@@ -97,7 +97,7 @@ void PlanePaneView::connect_commands(const Perform& perform) {
   command(show_all_, [f] { f->plane.Label30_Click(); });
   command(menus_, [f] { f->menu_editor.show(); });
   command(process_, [f] { f->plane.Label8_Click(); });
-  command(clear_, [f] { f->plane.Label3_Click(); });
+  command(clear_, [f] { f->Label3_Click(); });
   command(save_, [f] { f->save_pane.Label14_Click(); });
   command(load_, [f] { f->load_pane.Label13_Click(); });
   command(hide_, [f] { f->plane.Label10_Click(); });

@@ -55,7 +55,6 @@ void SavePaneView::lay_out() {
 
 void SavePaneView::apply() {
   const SavePane& pane = form_.save_pane;
-  const bool opens = pane.SaveFrame.visible && frame_->isHidden();
   prompt_->setText(pane.kind == SavePane::SaveKind::kGameSet ? "Save the game table under the name"
                                                              : "Save the aircraft table under the name");
   const QString name = QString::fromStdString(pane.Text2.text);
@@ -68,7 +67,6 @@ void SavePaneView::apply() {
   ok_->apply(pane.Label4);
   cancel_->apply(pane.Label39);
   frame_->apply(pane.SaveFrame);
-  if (opens) name_->setFocus();
 }
 
 }  // namespace vorlund

@@ -46,7 +46,7 @@ SelectionPaneView::SelectionPaneView(Form1& form, const Perform& perform, QWidge
   backdrop_->on_click = [f, perform] { perform([&] { f->selection.Image3_Click(); }); };
   backdrop_->setFocusPolicy(Qt::NoFocus);
   backdrop_->setAccessibleName("Make a selection, or click here to hide");
-  picture_->on_click = [f, perform] { perform([&] { f->selection.Image1_Click(); }); };
+  picture_->on_click = [f, perform] { perform([&] { f->Image1_Click(); }); };
   picture_->setAccessibleName("Single click to load");
   picture_->setCursor(Qt::PointingHandCursor);
   hide_picture_->on_release = [f, perform](const MouseEvent&) {
@@ -63,6 +63,7 @@ SelectionPaneView::SelectionPaneView(Form1& form, const Perform& perform, QWidge
   description_->setCursor(Qt::ArrowCursor);
   list_->setObjectName("SelectionLabels");
   list_->setFrameShape(QFrame::NoFrame);
+  list_->setFocusPolicy(Qt::NoFocus);
   list_->setWidgetResizable(true);
   list_->setWidget(list_board_);
   list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -140,7 +141,7 @@ void SelectionPaneView::apply_selection_labels() {
     label->on_release = [this, index](const MouseEvent&) {
       perform_([this, index] { form_.selection.SelLab_Click(index); });
     };
-    label->on_double_click = [this] { perform_([this] { form_.selection.SelLab_DblClick(); }); };
+    label->on_double_click = [this] { perform_([this] { form_.SelLab_DblClick(); }); };
     column->addWidget(label);
     selections_.push_back(label);
   }
@@ -160,7 +161,7 @@ void SelectionPaneView::apply() {
   show_label(slot_group_, labels.Label43);
   show_label(slot_folder_, labels.Label45);
   picture_->apply(pane.Image1);
-  advice_->setVisible(pane.current_selection.empty());
+  advice_->setVisible(!pane.shows_selection());
   picture_hint_->setVisible(pane.Image1.visible);
   const QString text = QString::fromStdString(pane.Text1.text).replace("\r\n", "\n");
   if (description_->toPlainText() != text) description_->setPlainText(text);

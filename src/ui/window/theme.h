@@ -12,6 +12,9 @@ class QApplication;
 
 namespace vorlund::theme {
 
+/// Property of the main window: true while an action runs that takes no clicks and keys.
+inline constexpr const char* kWorkingProperty = "working";
+
 inline constexpr QColor kText{0xF2, 0xF4, 0xF6};
 inline constexpr QColor kQuietText{0xAE, 0xBA, 0xC6};
 inline constexpr QColor kAccent{0xFF, 0xC9, 0x4D};
