@@ -1,5 +1,6 @@
 // Fuzzes the reader of loader patches.
 #include "gamesets/loader_patch.h"
+#include "support/text_reader.h"
 #include "surroundings.h"
 
 using namespace vorlund;
@@ -7,7 +8,8 @@ using namespace vorlund;
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   // Kept from run to run: filling it with zeros up to a far offset each time would take all of the time.
   static PatchedBytes executable("MZ");
-  apply_loader_patch(fuzz::as_bytes(data, size), executable);
+  test::TextReader patch(fuzz::as_bytes(data, size));
+  apply_loader_patch(patch, executable);
   fuzz::require(executable.bytes().size() <= (std::size_t{1} << 24));
   return 0;
 }

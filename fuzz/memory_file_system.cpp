@@ -6,6 +6,7 @@
 
 #include "core/action_error.h"
 #include "core/text.h"
+#include "support/text_reader.h"
 
 namespace vorlund::fuzz {
 
@@ -72,12 +73,8 @@ std::vector<FolderEntry> MemoryFileSystem::entries(std::string_view folder) {
   return entries;
 }
 
-std::string MemoryFileSystem::read_file(std::string_view path, std::uint64_t limit) {
-  return file("read", path).bytes.substr(0, limit);
-}
-
-std::uint64_t MemoryFileSystem::file_size(std::string_view path) {
-  return file("take the length of", path).bytes.size();
+std::unique_ptr<FileReader> MemoryFileSystem::open_file(std::string_view path) {
+  return std::make_unique<test::TextReader>(file("read", path).bytes);
 }
 
 void MemoryFileSystem::replace_file(std::string_view path, std::string_view bytes, Durability) {

@@ -28,7 +28,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
       editor.set_name(0, bytes.substr(0, 300));
       editor.pmenwrite();
       const std::string path = surroundings.game.path(paths[static_cast<std::size_t>(country)]);
-      fuzz::require(surroundings.files.file_size(path) <= picture_menu_limit(country == 2 ? 11 : 9));
+      fuzz::require(surroundings.files.read_file(path).size() <= picture_menu_limit(country == 2 ? 11 : 9));
     });
   }
   return 0;

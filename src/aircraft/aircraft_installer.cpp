@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <map>
 
 #include "aircraft/aircraft_remarks.h"
 #include "aircraft/flight_model_folder.h"
@@ -10,6 +11,7 @@
 #include "aircraft/plane_codes.h"
 #include "aircraft/planes_data.h"
 #include "core/action_error.h"
+#include "core/copier.h"
 #include "core/patch_file.h"
 #include "core/plain_name.h"
 #include "core/store.h"
@@ -27,34 +29,30 @@ const std::array<std::vector<int>, 3> kMenuRecords = {
 constexpr std::array<std::string_view, 3> kMenus = {kBritishPictureMenu, kAmericanPictureMenu,
                                                     kGermanPictureMenu};
 
-/// A stretch of the whole work, for the progress shown.
-struct Stretch {
-  double from;
-  double to;
-};
-constexpr Stretch kGroupFiles = {0, 0.3};
-constexpr Stretch kRecords = {0.3, 0.4};
-constexpr Stretch kLoadouts = {0.4, 0.5};
-constexpr Stretch kSlotFiles = {0.5, 0.95};
-constexpr Stretch kMenuFiles = {0.95, 1};
-
 class Installation {
  public:
   Installation(Environment& environment, PlaneTable& table, PilotNames& names, MenuEditor& menu_editor)
-      : environment_(environment), table_(table), names_(names), menu_editor_(menu_editor) {}
+      : environment_(environment),
+        table_(table),
+        names_(names),
+        menu_editor_(menu_editor),
+        copier_(environment) {}
 
   AircraftSummary run() {
-    copy_group_files();
+    look_ahead();
+    copy_all(flight_model_group_folder(environment_, table_), "*.*");
     write_names();
     seen_.slots = table_.shown_slots();
     summary_.slots = seen_.slots.size();
     write_records();
     write_loadouts();
-    for (std::size_t index = 0; index < seen_.slots.size(); ++index) {
-      copy_flight_model(index);
-      copy_skin(index);
+    for (const int row : seen_.slots) {
+      copy_flight_model(row);
+      if (const std::string folder = skin_folder(row); !folder.empty()) copy_all(folder, kSkinPattern);
     }
     write_menus();
+    summary_.copied = copier_.copied();
+    summary_.unchanged = copier_.unchanged();
     summary_.records = seen_.slots.size() - seen_.without_flight_model.size();
     summary_.remarks = aircraft_remarks(environment_, table_, seen_);
     if (!summary_.names) {
@@ -64,31 +62,35 @@ class Installation {
   }
 
  private:
-  void report(std::string_view file, Stretch stretch, std::size_t index, std::size_t count) const {
-    const double share = static_cast<double>(index) / static_cast<double>(count);
-    environment_.status.progress({file, stretch.from + (stretch.to - stretch.from) * share});
-  }
-
   const std::string& cell(int row, int column) const { return table_.G1.cell(row, column); }
 
-  void copy(const std::string& source, const std::string& name) {
-    const CopyOutcome outcome =
-        environment_.files.copy_file(source, environment_.game.path("\\") + name, Durability::kCached);
-    ++(outcome == CopyOutcome::kWritten ? summary_.copied : summary_.unchanged);
+  void look_ahead() {
+    list_ahead(flight_model_group_folder(environment_, table_), "*.*");
+    for (int row = 1; row < table_.G1.row_count(); ++row) {
+      if (!table_.is_used(row)) continue;
+      copier_.expect(3);  // the aircraft record, the load-out and the flight model
+      list_ahead(skin_folder(row), kSkinPattern);
+    }
+    copier_.expect(kMenus.size());
   }
 
-  /// Lists the folder and copies its matching files under their own names.
-  void copy_all(const std::string& folder, std::string_view pattern, Stretch stretch) {
+  void list_ahead(const std::string& folder, std::string_view pattern) {
+    if (folder.empty() || !environment_.files.FolderExists(folder)) return;
+    const auto [listed, first] = listed_.try_emplace(folder, environment_.files, folder, pattern);
+    copier_.expect(listed->second.count());
+  }
+
+  /// Copies the files of a folder that was listed ahead under their own names.
+  void copy_all(const std::string& folder, std::string_view pattern) {
     selected_.path = folder;
-    list_pattern(environment_.files, selected_, pattern);
-    const std::vector<std::string>& found = selected_.names;
-    for (std::size_t index = 0; index < found.size(); ++index) {
-      report(found[index], stretch, index, found.size());
-      copy(folder + "\\" + found[index], found[index]);
+    selected_.pattern = pattern;
+    const auto listed = listed_.find(folder);
+    if (listed == listed_.end()) return;
+    for (const std::string& name : listed->second.names()) {
+      copier_.reach(name);
+      copier_.copy(folder + "\\" + name, environment_.game.path("\\") + name);
     }
   }
-
-  void copy_group_files() { copy_all(flight_model_group_folder(environment_, table_), "*.*", kGroupFiles); }
 
   void write_names() {
     // Deliberate: without the name file the view is not refreshed either, and what it shows is installed.
@@ -109,7 +111,7 @@ class Installation {
 
   void write_records() {
     for (std::size_t index = 0; index < seen_.slots.size(); ++index) {
-      report("Planes.dat", kRecords, index, seen_.slots.size());
+      copier_.reach("Planes.dat");
       const int row = seen_.slots[index];
       const OawOutcome outcome = OawWrite(environment_, table_, row, selected_);
       if (outcome == OawOutcome::kNoFlightModel) seen_.without_flight_model.push_back(row);
@@ -120,47 +122,44 @@ class Installation {
   /// left selected. Sets are made so that their last slot's folder carries the load-outs of all.
   void write_loadouts() {
     for (std::size_t index = 0; index < seen_.slots.size(); ++index) {
-      report("loadout.dat", kLoadouts, index, seen_.slots.size());
+      copier_.reach("loadout.dat");
       const LoadOutOutcome outcome = LoadOutWrite(environment_, table_, seen_.slots[index], selected_);
       seen_.loadouts = seen_.loadouts || outcome.first_area || outcome.second_area;
     }
   }
 
-  Stretch stretch_of_slot(std::size_t index) const {
-    const double share = (kSlotFiles.to - kSlotFiles.from) / static_cast<double>(seen_.slots.size());
-    const double from = kSlotFiles.from + share * static_cast<double>(index);
-    return {from, from + share};
-  }
-
-  void copy_flight_model(std::size_t index) {
-    const int row = seen_.slots[index];
+  void copy_flight_model(int row) {
+    const std::string name = cell(row, PlaneTable::kSlot) + ".flt";
+    copier_.reach(name);
     selected_.path = flight_model_folder(environment_, table_, row);
     list_pattern(environment_.files, selected_, "*.flt");
     if (selected_.names.empty()) return;
-    const std::string name = cell(row, PlaneTable::kSlot) + ".flt";
-    if (!is_plain_name(name)) {
+    if (!stays_below(name)) {
       throw ActionError("install the flight model of", table_.describe_cell(row, PlaneTable::kSlot),
-                        "\"" + name + "\" can't be the name of a file in the game folder");
+                        "\"" + name + "\" leads out of the game folder");
     }
-    report(name, stretch_of_slot(index), 0, 1);
-    copy(selected_.path + "\\" + selected_.names.front(), name);
+    copier_.copy(selected_.path + "\\" + selected_.names.front(), environment_.game.path("\\") + name);
   }
 
-  void copy_skin(std::size_t index) {
-    const std::string& region = cell(seen_.slots[index], PlaneTable::kRegion);
-    const std::string& folder = cell(seen_.slots[index], PlaneTable::kSkinFolder);
-    if (!is_plain_name(region) || !is_plain_name(folder)) return;
-    copy_all(environment_.game.path(kSkinStore) + "\\" + region + "\\" + folder, kSkinPattern,
-             stretch_of_slot(index));
+  /// Where a row's skin lies; "" where it has none.
+  std::string skin_folder(int row) const {
+    const std::string& region = cell(row, PlaneTable::kRegion);
+    const std::string& folder = cell(row, PlaneTable::kSkinFolder);
+    if (region.empty() || folder.empty() || !stays_below(region) || !stays_below(folder)) return {};
+    return environment_.game.path(kSkinStore) + "\\" + region + "\\" + folder;
   }
 
   void write_menus() {
     for (std::size_t country = 0; country < kMenus.size(); ++country) {
-      report(kMenus[country].substr(1), kMenuFiles, country, kMenus.size());
+      copier_.reach(kMenus[country].substr(1));
       menu_editor_.CountryBut_Click(static_cast<int>(country));
       menu_editor_.pmenread();
       int entry = 0;
-      for (const int record : kMenuRecords[country]) menu_editor_.set_name(entry++, names_.name(record));
+      // Without a name list the menus keep the names that they have.
+      for (const int record : kMenuRecords[country]) {
+        if (names_.were_read()) menu_editor_.set_name(entry, names_.name(record));
+        ++entry;
+      }
       if (environment_.files.FileExists(environment_.game.path(kMenus[country]))) ++summary_.menus;
       menu_editor_.pmenwrite();
     }
@@ -172,12 +171,10 @@ class Installation {
   MenuEditor& menu_editor_;
   InstallObservations seen_;
   FileList selected_;  // the one listing that all steps share
+  Copier copier_;
+  std::map<std::string, ListedAhead> listed_;  // by folder
   AircraftSummary summary_;
 };
-
-std::string counted(std::uint64_t count, std::string_view one, std::string_view many) {
-  return std::to_string(count) + " " + std::string(count == 1 ? one : many);
-}
 
 }  // namespace
 
@@ -193,8 +190,6 @@ std::string AircraftSummary::text() const {
 
 AircraftSummary install_aircraft_set(Environment& environment, PlaneTable& table, PilotNames& names,
                                      MenuEditor& menu_editor) {
-  const FileSystem::Action action(
-      environment.files, [&] { environment.status.pulse(); }, environment.game.path(kStore));
   return Installation(environment, table, names, menu_editor).run();
 }
 

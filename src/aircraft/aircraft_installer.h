@@ -29,8 +29,9 @@ struct AircraftSummary {
 /// Installs every slot that the view shows: copies the files of the flight-model group, each slot's flight
 /// model and skin, and writes names, aircraft records, load-outs and picture menus. Where the game directory
 /// holds pnames.str the view is first refreshed to used rows; without it the rows that happen to be shown
-/// count. Folders that do not exist give no files. A slot cell that can't be part of a plain file name is an
-/// error before that file is written.
+/// count. Folders that do not exist give no files. A slot cell that leads out of the game
+/// folder is an error before that file is written. Where no name list was read since the start the menus keep
+/// their names.
 /// A failing operation ends the installation with an ActionError; what was done before stays. The record is
 /// not written here.
 AircraftSummary install_aircraft_set(Environment& environment, PlaneTable& table, PilotNames& names,

@@ -45,11 +45,14 @@ class Reviewer {
 
   bool review_group() {
     const std::string& group = table_.flight_model_group();
-    if (is_there(flight_model_group_folder(environment_, table_))) return true;
-    remarks_.push_back(group.empty()
-                           ? "no flight-model group is set, so no flight model was installed"
-                           : "there is no flight-model group \"" + group + "\", so none was installed");
-    return false;
+    const bool there = is_there(flight_model_group_folder(environment_, table_));
+    if (group.empty()) {
+      remarks_.emplace_back(
+          "no flight-model group is set, so \"~Vorlund\\FlightModels\" itself was taken for it");
+    } else if (!there) {
+      remarks_.push_back("there is no flight-model group \"" + group + "\", so none was installed");
+    }
+    return there;
   }
 
   void review_flight_model(int row) {
@@ -75,8 +78,8 @@ class Reviewer {
       remark(row, "its skin is named by half, so none was installed");
       return;
     }
-    const bool plain = is_plain_name(region) && is_plain_name(name);
-    if (!plain || !is_there(environment_.game.path(kSkinStore) + "\\" + region + "\\" + name)) {
+    const bool below = stays_below(region) && stays_below(name);
+    if (!below || !is_there(environment_.game.path(kSkinStore) + "\\" + region + "\\" + name)) {
       remark(row, "the store has no skin folder \"" + region + "\\" + name + "\"");
     }
   }

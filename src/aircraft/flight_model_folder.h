@@ -10,8 +10,8 @@
 
 namespace vorlund {
 
-// Sets travel between players, so their names may be anything: one that is not a plain folder name counts as
-// a folder that does not exist. An empty flight-model group does too; it means that no group has been chosen.
+// Sets travel between players, so their names may be anything: one with ".." or "." in it counts as a folder
+// that does not exist. An empty flight-model group, where none has been chosen, is the folder of all groups.
 
 /// Path of the set's flight-model group; "" when it counts as not existing.
 std::string flight_model_group_folder(const Environment& environment, const PlaneTable& table);

@@ -28,6 +28,9 @@ class PilotNames {
  public:
   ListBox PNameList;  ///< display names by record number, 0 to 29; empty until the file has been read
 
+  /// True once the list was filled.
+  bool were_read() const { return !PNameList.items.empty(); }
+
   /// The name of a record; "" for one that the list does not hold.
   std::string name(int record) const;
 

@@ -22,7 +22,7 @@ void PlanePane::select_option(PlaneOption option) {
 
 void PlanePane::Label8_Click() {
   const std::string caption = Label8.caption;
-  Label8.caption = "..working!";
+  Label8.caption = kWorkingCaption;
   environment_.status.repaint();
   Frame1.visible = false;
   const AircraftSummary summary = install_aircraft_set(environment_, table, pilot_names, menu_editor_);
@@ -34,11 +34,22 @@ void PlanePane::Label8_Click() {
   environment_.status.repaint();
 }
 
+void PlanePane::Label3_Click() {
+  table.Label3_Click();
+  const std::string& slot = table.G1.cell(table.G1.row, PlaneTable::kSlot);
+  environment_.status.outcome(
+      table.G1.row == 0 ? "Nothing was cleared: first select a slot"
+                        : "Slot " + slot +
+                              " was cleared and is still the selected one. Its files stay in the game "
+                              "folder until \"Clean Up\".");
+}
+
 void PlanePane::G1_MouseDown(int row, int column, const MouseEvent& event) {
   if (event.button != MouseButton::kLeft) return;
   const bool edits = is_set(PlaneOption::kEditMode);
   if (edits) show_plane_codes();
   table.select(row, column);
+  if (edits) table.selected_slot_row = table.G1.row;
   if (!edits || table.G1.row == 0) return;
   if (column == PlaneTable::kRegion || column == PlaneTable::kSkinFolder) {
     fill_possible_skins();

@@ -45,7 +45,8 @@ class PlanePane {
   void Label8_Click();
   std::string last_outcome;  ///< what the last installation has come to, in plain words
 
-  void Label3_Click() { table.Label3_Click(); }
+  /// Clears the current row and says so.
+  void Label3_Click();
   void Label30_Click() { table.Label30_Click(); }
 
   /// A press of the left button on a cell, or Enter or Space on the current one: makes the cell current. In

@@ -165,9 +165,6 @@ void PlaneTable::Label3_Click() {
   if (!has_slot(cleared)) return;
   for (int column = 1; column < kColumns; ++column) G1.set_cell(cleared, column, "");
   g1update();
-  const std::vector<int> shown = shown_slots();
-  const auto next = std::upper_bound(shown.begin(), shown.end(), cleared);
-  select(next != shown.end() ? *next : shown.empty() ? 0 : shown.back(), G1.column);
 }
 
 void PlaneTable::cycle(int row, int column) {

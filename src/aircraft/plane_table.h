@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -29,8 +30,9 @@ class PlaneTable {
   static constexpr int kFuel = 9;  ///< percent of the flight model's own fuel: "100", "75", "50", "25"
 
   Grid G1;
-  std::array<Label, 2> Label25;  ///< the current flight-model group, shown twice
-  Label Label30{"Show All"};     ///< "Show All" while used rows alone are shown, else "Show Selections"
+  std::array<Label, 2> Label25;          ///< the current flight-model group, shown twice
+  std::optional<int> selected_slot_row;  ///< row last clicked in edit mode or given a skin; none at first
+  Label Label30{"Show All"};  ///< "Show All" while used rows alone are shown, else "Show Selections"
 
   /// A table of the header row and the thirty slots, nothing chosen.
   PlaneTable();
@@ -73,7 +75,8 @@ class PlaneTable {
   /// Switches between all rows and used rows.
   void Label30_Click();
 
-  /// Clears the current row but for its slot code, and hides it. Does nothing without a current row.
+  /// Clears the current row but for its slot code, and hides it. It stays the current row, so that what is
+  /// chosen next goes into it. Does nothing without a current row.
   void Label3_Click();
 
   /// Cycles a cell of "Side", "Flyable", "Role" or "Fuel %" to its next value; compared exactly, with case.

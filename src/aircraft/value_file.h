@@ -3,26 +3,31 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "core/file_system.h"
+#include "core/leading_number.h"
 
 namespace vorlund {
 
-/// Reads such a file line by line. Its first line is a title. Every error names the file and the line.
+/// Reads such a file line by line, however long it is: what a line holds behind its number is not kept. Lines
+/// end as `split_lines` has it. The first line is a title. Every error names the file and the line.
 class ValueFile {
  public:
-  static constexpr std::uint64_t kLongest = 1024 * 1024;  ///< bytes; a longer file is refused
-
-  /// Opens the file; fails when it can't be read or is longer than `kLongest`.
+  /// Opens the file; fails when it can't be read.
   ValueFile(FileSystem& files, std::string path);
 
-  bool at_end() const { return next_ == lines_.size(); }
+  bool at_end();
 
-  /// Reads the title line; a file without any line is read past its end, which is an error.
-  void skip_title() { next_line(); }
+  /// Reads the title line and returns it, in the code page; a file without any line is read past its end,
+  /// which is an error.
+  std::string title();
+
+  /// As `title`, keeping nothing of it.
+  void skip_title() { next_value(); }
 
   /// The number at the start of the next line, 0 where there is none. Past the last line is an error.
   double next_value();
@@ -33,13 +38,21 @@ class ValueFile {
 
   const std::string& path() const { return path_; }
 
+  /// Lines read so far.
+  std::uint64_t lines_read() const { return lines_read_; }
+
  private:
-  std::string_view next_line();
+  /// Hands the characters of the next line to `take`. Past the last line is an error.
+  template <typename Take>
+  void read_line(Take take);
+  bool fill();
 
   std::string path_;
-  std::string text_;
-  std::vector<std::string_view> lines_;
-  std::size_t next_ = 0;
+  std::unique_ptr<FileReader> file_;
+  std::vector<char> block_;
+  std::size_t at_ = 0;
+  std::size_t filled_ = 0;
+  std::uint64_t lines_read_ = 0;
 };
 
 }  // namespace vorlund

@@ -7,6 +7,9 @@
 
 namespace vorlund {
 
+/// The reason where memory does not suffice.
+inline constexpr std::string_view kOutOfMemory = "there is not enough memory for it";
+
 /// A failure that ends the running action and with it the program. Nobody catches it but the outermost
 /// layer, which shows `what()` to the user. All texts are UTF-8.
 class ActionError : public std::runtime_error {

@@ -10,6 +10,9 @@ namespace vorlund {
 /// Positions and sizes are in twips: 1/1440 inch, 15 to a pixel at 96 dots per inch.
 inline constexpr int kTwipsPerPixel = 15;
 
+/// Caption of the label of a long action while it runs.
+inline constexpr const char* kWorkingCaption = "..working!";
+
 struct Place {
   int left = 0;
   int top = 0;

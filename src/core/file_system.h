@@ -32,6 +32,18 @@ struct FolderEntry {
   bool hidden;  ///< hidden or system attribute on Windows; a leading dot elsewhere
 };
 
+/// A file that is open to be read from its beginning to its end.
+class FileReader {
+ public:
+  virtual ~FileReader() = default;
+
+  /// Length of the file in bytes when it was opened.
+  virtual std::uint64_t size() const = 0;
+
+  /// Reads the next `size` bytes, fewer only at the end of the file; returns how many.
+  virtual std::size_t read(char* bytes, std::size_t size) = 0;
+};
+
 /// The file operations of the program.
 ///
 /// Paths are UTF-8 texts with backslashes, formed by plain concatenation; doubled backslashes are accepted
@@ -39,12 +51,12 @@ struct FolderEntry {
 /// every platform; where the disk tells cases apart, the exact spelling is tried first.
 /// Unless said otherwise an operation that fails throws ActionError with the path and the system's text.
 ///
-/// A file is always replaced whole: it is written under the name `neighbour_name(target)` in the target's
-/// folder, or in the one that an Action names for it, and renamed, so that a crash leaves the old file or the
-/// new one. A failed write leaves the old file. A written file keeps the permissions of the one it replaces,
-/// and never follows a symbolic link: the link itself is replaced. A file marked read-only (no write
-/// permission at all, on POSIX) is not replaced or removed: that is an error. Nothing here ever creates a
-/// folder.
+/// A file is always replaced whole: it is written under a name of its own (see `staging_name`) in the
+/// target's folder, or in the one that an Action names for it, and renamed, so that a crash leaves the old
+/// file or the new one. A failed write leaves the old file. A written file keeps the permissions of the one
+/// it replaces, and never follows a symbolic link: the link itself is replaced. A file marked read-only (no
+/// write permission at all, on POSIX) is not replaced or removed: that is an error. Nothing here ever creates
+/// a folder.
 class FileSystem {
  public:
   static constexpr std::uint64_t kNoLimit = std::numeric_limits<std::uint64_t>::max();
@@ -69,11 +81,12 @@ class FileSystem {
   /// out.
   virtual std::vector<FolderEntry> entries(std::string_view folder) = 0;
 
-  /// The first `limit` bytes of the file, or the whole of it when it is shorter.
-  virtual std::string read_file(std::string_view path, std::uint64_t limit = kNoLimit) = 0;
+  /// Opens the file to be read. The reader's functions fail as those of the file system do.
+  virtual std::unique_ptr<FileReader> open_file(std::string_view path) = 0;
 
-  /// Length of the file in bytes.
-  virtual std::uint64_t file_size(std::string_view path) = 0;
+  /// The first `limit` bytes of the file, or the whole of it when it is shorter. More than fits into memory
+  /// is an error too.
+  std::string read_file(std::string_view path, std::uint64_t limit = kNoLimit);
 
   /// Makes `bytes` the whole content of the file, creating or replacing it. A file that is there keeps the
   /// spelling of its name.
@@ -118,10 +131,18 @@ class FileSystem {
   virtual void end_action() = 0;
 };
 
-/// The bare name under which the content of `target` (a bare name) is written before it is renamed.
-/// One fixed name a folder: the next write there takes over what a crash left. It ends in ".bak" so that in
-/// the game folder the clean-up sweeps it as well.
-std::string_view neighbour_name(std::string_view target);
+/// The bare name under which this process writes a file before it is renamed: "~vorlund-", a letter for the
+/// platform, the process's number and `attempt`, both in hexadecimal with "-" between, ".bak". Where an entry
+/// of that name stands already the next attempt is made, so nothing is ever taken for a left-over that this
+/// program did not make. It ends in ".bak" so that in the game folder the clean-up sweeps what a crash left.
+std::string staging_name(unsigned attempt);
+
+/// True for a name that `staging_name` has given to a process of this platform that runs no more: what a
+/// crash has left. The next write in its folder deletes such a file.
+bool is_left_over(std::string_view name);
+
+/// True for every name of the form that `staging_name` gives, whichever process it belongs to.
+bool is_staging_name(std::string_view name);
 
 /// The file system of the platform the program was built for.
 std::unique_ptr<FileSystem> make_platform_file_system();

@@ -50,8 +50,7 @@ class WindowsFileSystem final : public FileSystem {
   bool FolderExists(std::string_view path) override;
   bool lies_inside(std::string_view folder, std::string_view root) override;
   std::vector<FolderEntry> entries(std::string_view folder) override;
-  std::string read_file(std::string_view path, std::uint64_t limit) override;
-  std::uint64_t file_size(std::string_view path) override;
+  std::unique_ptr<FileReader> open_file(std::string_view path) override;
   void replace_file(std::string_view path, std::string_view bytes, Durability durability) override;
   CopyOutcome copy_file(std::string_view source, std::string_view target, Durability durability) override;
   void remove_file(std::string_view path) override;
@@ -120,25 +119,25 @@ std::vector<FolderEntry> WindowsFileSystem::entries(std::string_view folder) {
   return found;
 }
 
-std::string WindowsFileSystem::read_file(std::string_view path, std::uint64_t limit) {
-  const WindowsSource source(path);
-  std::string bytes;
-  std::uint64_t step = std::min(limit, source.size());
-  while (bytes.size() < limit) {
-    const std::size_t done = bytes.size();
-    bytes.resize(done + static_cast<std::size_t>(std::min(step, limit - done)));
-    std::size_t got = 0;
-    if (!read_up_to(source.handle(), bytes.data() + done, bytes.size() - done, got))
-      throw_windows_error("read", path);
-    bytes.resize(done + got);
-    if (got == 0 && done >= source.size()) break;
-    step = 4096;
-  }
-  return bytes;
-}
+/// Reads an open file block by block.
+class WindowsReader final : public FileReader {
+ public:
+  explicit WindowsReader(std::string_view path) : source_(path) {}
 
-std::uint64_t WindowsFileSystem::file_size(std::string_view path) {
-  return WindowsSource(path).size();
+  std::uint64_t size() const override { return source_.size(); }
+
+  std::size_t read(char* bytes, std::size_t size) override {
+    std::size_t got = 0;
+    if (!read_up_to(source_.handle(), bytes, size, got)) throw_windows_error("read", source_.path());
+    return got;
+  }
+
+ private:
+  WindowsSource source_;
+};
+
+std::unique_ptr<FileReader> WindowsFileSystem::open_file(std::string_view path) {
+  return std::make_unique<WindowsReader>(path);
 }
 
 void WindowsFileSystem::replace_file(std::string_view path, std::string_view bytes, Durability durability) {

@@ -2,7 +2,9 @@
 #include "core/patch_file.h"
 
 #include <algorithm>
+#include <new>
 
+#include "core/action_error.h"
 #include "core/text.h"
 
 namespace vorlund {
@@ -27,7 +29,8 @@ bool is_there(FileSystem& files, std::string_view path) {
   });
 }
 
-void patch_file(FileSystem& files, std::string_view path, const std::function<void(PatchedBytes&)>& patch) {
+void patch_file(FileSystem& files, std::string_view path,
+                const std::function<void(PatchedBytes&)>& patch) try {
   const bool existed = is_there(files, path);
   PatchedBytes content(existed ? files.read_file(path) : std::string());
   const auto keep = [&] {
@@ -35,11 +38,15 @@ void patch_file(FileSystem& files, std::string_view path, const std::function<vo
   };
   try {
     patch(content);
+  } catch (const std::bad_alloc&) {
+    throw;
   } catch (...) {
     keep();
     throw;
   }
   keep();
+} catch (const std::bad_alloc&) {
+  throw ActionError("patch", path, kOutOfMemory);
 }
 
 }  // namespace vorlund

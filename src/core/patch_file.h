@@ -37,8 +37,8 @@ bool is_there(FileSystem& files, std::string_view path);
 
 /// Opens the file (an empty one when it does not exist yet), lets `patch` change it, and replaces it whole if
 /// anything changed or the file did not exist. A file that is there but can't be seen is an error: it must
-/// not be mistaken for one that is missing and be made anew. When `patch` throws, what it had written up to
-/// there is kept and the error goes on.
+/// not be mistaken for one that is missing and be made anew. When `patch` fails, what it had written up to
+/// there is kept and the error goes on; when memory gives out the file stays as it was.
 void patch_file(FileSystem& files, std::string_view path, const std::function<void(PatchedBytes&)>& patch);
 
 }  // namespace vorlund

@@ -1,4 +1,4 @@
-// The rules that a name from outside must obey before it becomes part of a path.
+// The parts of a name that is joined to a path, and the rules for the names of new files.
 #include "core/plain_name.h"
 
 #include <algorithm>
@@ -12,13 +12,8 @@ namespace vorlund {
 
 namespace {
 
-bool plain_everywhere(std::string_view name) {
-  if (name.find_first_not_of(". ") == std::string_view::npos) return false;
-  return std::none_of(name.begin(), name.end(), [](char character) {
-    const auto byte = static_cast<unsigned char>(character);
-    return byte < 0x20 || byte == 0x7F || byte == '/' || byte == '\\' || byte == ':';
-  });
-}
+/// Bytes that a file name may have on Linux; Windows allows as many characters.
+constexpr std::size_t kLongestName = 255;
 
 /// "COM1" to "LPT9" and their like; Windows takes the superscript digits for digits.
 bool is_port(std::string_view base) {
@@ -43,15 +38,26 @@ bool is_utf8(std::string_view name) {
   return true;
 }
 
-bool plain_on_windows(std::string_view name) {
-  return name.find_first_of("*?\"<>|") == std::string_view::npos && name.back() != '.' &&
-         name.back() != ' ' && !is_device(name) && is_utf8(name);
-}
-
 }  // namespace
 
-bool is_plain_name(std::string_view name, NameRules rules) {
-  return plain_everywhere(name) && (rules == NameRules::kPosix || plain_on_windows(name));
+bool stays_below(std::string_view name) {
+  for (;;) {
+    const std::size_t end = name.find_first_of("\\/");
+    const std::string_view part = name.substr(0, end);
+    if (part == "." || part == "..") return false;
+    if (end == std::string_view::npos) return true;
+    name.remove_prefix(end + 1);
+  }
+}
+
+bool is_portable_name(std::string_view name) {
+  const auto is_control = [](char character) {
+    const auto byte = static_cast<unsigned char>(character);
+    return byte < 0x20 || byte == 0x7F;
+  };
+  return !name.empty() && name.size() <= kLongestName && name.back() != '.' && name.back() != ' ' &&
+         name.find_first_of("/\\:*?\"<>|") == std::string_view::npos &&
+         std::none_of(name.begin(), name.end(), is_control) && is_utf8(name) && !is_device(name);
 }
 
 }  // namespace vorlund

@@ -1,26 +1,18 @@
-// Names that come from records and set-ups of other players: which of them are safe to put into a path.
+// Names that come from records, set-ups and players: which of them may become part of a path.
 #pragma once
 
 #include <string_view>
 
 namespace vorlund {
 
-/// Which platform's rules a name must obey besides those that hold everywhere.
-enum class NameRules {
-  kPosix,    ///< no further rule
-  kWindows,  ///< no device name, no wildcard or other forbidden character, no trailing dot or blank
-};
+/// True when a path that is formed by joining `name` to a folder stays in that folder: no part of it, between
+/// backslashes or slashes, is "." or "..". Such a name counts as a folder that does not exist; whatever else
+/// there is in a name is the platform's to judge.
+bool stays_below(std::string_view name);
 
-#ifdef _WIN32
-inline constexpr NameRules kPlatformNameRules = NameRules::kWindows;
-#else
-inline constexpr NameRules kPlatformNameRules = NameRules::kPosix;
-#endif
-
-/// True when `name` can only mean one file or folder directly inside the folder it is joined to.
-/// Never plain on any platform: the empty name, names of dots and blanks alone, names with a slash,
-/// backslash, colon or control character. A row that names a folder which is not plain is passed over like
-/// one whose folder does not exist.
-bool is_plain_name(std::string_view name, NameRules rules = kPlatformNameRules);
+/// True when a file can have this name on Linux and on Windows alike: it is not empty, not longer than 255
+/// bytes, not of dots and blanks alone, has no slash, backslash, colon, wildcard, quotation mark, angle, bar
+/// or control character and no dot or blank at its end, is UTF-8, and names no device of Windows.
+bool is_portable_name(std::string_view name);
 
 }  // namespace vorlund

@@ -2,11 +2,13 @@
 #include "core/posix_folder.h"
 
 #include <fcntl.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
 #include <utility>
 
+#include "core/file_system.h"
 #include "core/posix_folder_reader.h"
 #include "core/text.h"
 #include "core/utf8.h"
@@ -141,6 +143,22 @@ std::optional<std::string> PosixFolder::other_spelling(std::string_view name) {
     return std::nullopt;
   }
   return std::move(found->others.front());
+}
+
+void PosixFolder::sweep_left_overs() {
+  if (std::exchange(swept_, true)) return;
+  std::vector<std::string> left_overs;
+  const auto take = [&](std::string_view name) {
+    if (is_left_over(name)) left_overs.emplace_back(name);
+  };
+  if (names_) {
+    std::for_each(names_->first.begin(), names_->first.end(), take);
+  } else {
+    read_names(take);
+  }
+  for (const std::string& name : left_overs) {
+    if (::unlinkat(descriptor(), name.c_str(), 0) == 0) name_removed(name);
+  }
 }
 
 void PosixFolder::name_added(std::string_view name) {

@@ -64,6 +64,10 @@ class PosixFolder {
   /// other one.
   std::optional<std::string> other_spelling(std::string_view name);
 
+  /// Deletes the files that a write of a process that runs no more has left here, once in the folder's life.
+  /// Such that can't be deleted stay.
+  void sweep_left_overs();
+
   /// Keep what is remembered in step with the disk.
   void name_added(std::string_view name);
   void name_removed(std::string_view name);
@@ -97,6 +101,7 @@ class PosixFolder {
   std::optional<Names> names_;
   std::optional<struct stat> status_;
   bool last_as_spelled_ = false;
+  bool swept_ = false;
 };
 
 /// Finds folders by their paths. Between `remember` and `forget` it keeps the folders used last open, with

@@ -2,6 +2,7 @@
 #include "core/posix_program.h"
 
 #include <fcntl.h>
+#include <signal.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -10,6 +11,7 @@
 
 #include "core/action_error.h"
 #include "core/posix_file.h"
+#include "core/process_number.h"
 
 namespace vorlund {
 
@@ -47,6 +49,14 @@ std::string find_command(std::string_view name) {
 }
 
 }  // namespace
+
+std::uint32_t own_process_number() {
+  return static_cast<std::uint32_t>(::getpid());
+}
+
+bool process_runs(std::uint32_t number) {
+  return ::kill(static_cast<pid_t>(number), 0) == 0 || errno != ESRCH;
+}
 
 PosixCommand command_for(const std::string& program, std::string_view beginning) {
   if (!beginning.starts_with("MZ")) return {program, {program}};

@@ -115,19 +115,16 @@ int PosixTarget::begin(const std::shared_ptr<PosixFolder>& staging) {
   return written_.descriptor();
 }
 
-/// Creates the neighbour in a folder, taking over one that a crash has left there; false, with errno, where
-/// that can't be done.
+/// Creates the neighbour in a folder under a name that is not taken; false, with errno, where that can't be
+/// done.
 bool PosixTarget::create(const std::shared_ptr<PosixFolder>& folder, mode_t mode) {
-  const std::string neighbour(neighbour_name(name_));
-  const auto open_new = [&] {
+  folder->sweep_left_overs();
+  std::string neighbour;
+  for (unsigned attempt = 0; !written_.is_open(); ++attempt) {
+    neighbour = staging_name(attempt);
     written_ =
         open_at(folder->descriptor(), neighbour.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW, mode);
-    return written_.is_open();
-  };
-  if (!open_new()) {
-    const bool left_over = errno == EEXIST;
-    if (!left_over || ::unlinkat(folder->descriptor(), neighbour.c_str(), 0) != 0 || !open_new())
-      return false;
+    if (!written_.is_open() && errno != EEXIST) return false;
   }
   neighbour_ = neighbour;
   neighbour_folder_ = folder;
@@ -157,9 +154,11 @@ bool PosixTarget::finish(Durability durability) {
   return true;
 }
 
+/// Flushes the folder, so that the name is on the disk too. Some disks have no such call for folders (shared
+/// folders, network and FUSE disks): there it is left to them.
 void PosixTarget::flush_folder() const {
   const FileHandle opened = open_at(folder_->descriptor(), ".", O_RDONLY | O_DIRECTORY);
-  if (!opened.is_open() || ::fsync(opened.descriptor()) != 0) fail();
+  if (!opened.is_open() || (::fsync(opened.descriptor()) != 0 && errno != EINVAL && errno != ENOTSUP)) fail();
 }
 
 void PosixTarget::refuse_read_only_others() const {

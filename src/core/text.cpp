@@ -1,25 +1,14 @@
-// Character by character work on UTF-8: case, order, parts of a text and the number at its start.
+// Character by character work on UTF-8: case, order and parts of a text.
 #include "core/text.h"
 
 #include <algorithm>
-#include <charconv>
-#include <limits>
-#include <system_error>
 
+#include "core/leading_number.h"
 #include "core/utf8.h"
 
 namespace vorlund {
 
 namespace {
-
-bool is_digit(char character) {
-  return character >= '0' && character <= '9';
-}
-
-std::size_t skip_digits(std::string_view text, std::size_t at) {
-  while (at < text.size() && is_digit(text[at])) ++at;
-  return at;
-}
 
 bool continues(std::string_view text, std::size_t at) {
   return at < text.size() && (static_cast<unsigned char>(text[at]) & 0xC0) == 0x80;
@@ -51,30 +40,6 @@ int compare_folded(std::string_view a, std::string_view b) {
 std::size_t advance(std::string_view text, std::size_t at, std::size_t count) {
   for (; count > 0 && at < text.size(); --count) next_character(text, at);
   return at;
-}
-
-/// The value of an exponent; one of more than six digits counts as 999,999.
-long exponent_value(std::string_view exponent) {
-  const bool negative = exponent.front() == '-';
-  if (negative || exponent.front() == '+') exponent.remove_prefix(1);
-  exponent.remove_prefix(std::min(exponent.find_first_not_of('0'), exponent.size()));
-  long value = 0;
-  for (const char digit : exponent.substr(0, 6)) value = value * 10 + (digit - '0');
-  if (exponent.size() > 6) value = 999'999;
-  return negative ? -value : value;
-}
-
-/// The value of a number too great or too small for a double: the largest one or 0.
-double value_out_of_range(std::string_view number, std::size_t exponent_mark) {
-  const std::string_view digits = number.substr(0, exponent_mark);
-  const std::size_t first = digits.find_first_of("123456789");
-  if (first == std::string_view::npos) return 0;
-  const auto point = static_cast<long>(std::min(digits.find('.'), digits.size()));
-  long magnitude = point - static_cast<long>(first);
-  if (exponent_mark < number.size()) magnitude += exponent_value(number.substr(exponent_mark + 1));
-  if (magnitude < 0) return 0;
-  const double largest = std::numeric_limits<double>::max();
-  return number.front() == '-' ? -largest : largest;
 }
 
 }  // namespace
@@ -149,28 +114,9 @@ std::vector<std::string_view> split_cells(std::string_view line) {
 }
 
 double leading_number(std::string_view text) {
-  const std::size_t begin = text.find_first_not_of(" \t");
-  if (begin == std::string_view::npos) return 0;
-  std::string_view number = text.substr(begin);
-  if (number.front() == '+') {
-    number.remove_prefix(1);
-    if (number.empty() || number.front() == '-') return 0;
-  }
-
-  std::size_t end = skip_digits(number, number.substr(0, 1) == "-" ? 1 : 0);
-  if (end < number.size() && number[end] == '.') end = skip_digits(number, end + 1);
-  const std::size_t exponent_mark = end;
-  if (end < number.size() && (number[end] == 'e' || number[end] == 'E')) {
-    std::size_t exponent = end + 1;
-    if (exponent < number.size() && (number[exponent] == '+' || number[exponent] == '-')) ++exponent;
-    if (skip_digits(number, exponent) > exponent) end = skip_digits(number, exponent);
-  }
-  number = number.substr(0, end);
-
-  double value = 0;
-  const auto parsed = std::from_chars(number.data(), number.data() + number.size(), value);
-  if (parsed.ec == std::errc::result_out_of_range) return value_out_of_range(number, exponent_mark);
-  return parsed.ec == std::errc() ? value : 0;
+  LeadingNumber number;
+  for (const char character : text) number.take(character);
+  return number.value();
 }
 
 }  // namespace vorlund

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "core/action_error.h"
+#include "core/process_number.h"
 #include "core/windows_path.h"
 
 namespace vorlund {
@@ -28,6 +29,19 @@ std::string error_text(DWORD error) {
 }
 
 }  // namespace
+
+std::uint32_t own_process_number() {
+  return GetCurrentProcessId();
+}
+
+bool process_runs(std::uint32_t number) {
+  const HANDLE process = OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, number);
+  if (process == nullptr) return GetLastError() != ERROR_INVALID_PARAMETER;
+  DWORD code = 0;
+  const bool ended = GetExitCodeProcess(process, &code) != 0 && code != STILL_ACTIVE;
+  CloseHandle(process);
+  return !ended;
+}
 
 WindowsHandle& WindowsHandle::operator=(WindowsHandle&& other) noexcept {
   if (this != &other) {

@@ -12,11 +12,6 @@ namespace {
 /// Attributes that a replaced file hands on.
 constexpr DWORD kKeptAttributes = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_ARCHIVE;
 
-/// Where a rename that changes nothing but case is passed over, as by Wine, the file takes a step over this
-/// name. It holds the source's bytes by then: a crash there loses nothing, and the next write in the folder
-/// removes it.
-constexpr std::wstring_view kStep = L"~vorlund-case.bak";
-
 /// The entry that a path names, links not followed; none, with the system's error, when there is none.
 std::optional<WIN32_FIND_DATAW> find_entry(const std::wstring& path) {
   WIN32_FIND_DATAW entry;
@@ -85,20 +80,33 @@ bool WindowsTarget::keep(Durability durability) {
 HANDLE WindowsTarget::begin() {
   if (existing_) refuse_read_only(existing_->dwFileAttributes, "write", path_);
   const DWORD kept = existing_ ? existing_->dwFileAttributes & kKeptAttributes : 0;
-  const std::wstring neighbour = folder_ + to_wide(neighbour_name(from_wide(name_)));
-  const auto create = [&] {
+  sweep_left_overs();
+  std::wstring neighbour;
+  for (unsigned attempt = 0; !written_.is_open(); ++attempt) {
+    neighbour = folder_ + to_wide(staging_name(attempt));
     written_ = WindowsHandle(CreateFileW(neighbour.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
                                          kept != 0 ? kept : FILE_ATTRIBUTE_NORMAL, nullptr));
-    return written_.is_open();
-  };
-  if (!create()) {
-    if (GetLastError() != ERROR_FILE_EXISTS && GetLastError() != ERROR_ALREADY_EXISTS) fail();
-    SetFileAttributesW(neighbour.c_str(), FILE_ATTRIBUTE_NORMAL);
-    if (DeleteFileW(neighbour.c_str()) == 0 || !create()) fail();
+    const DWORD error = written_.is_open() ? ERROR_SUCCESS : GetLastError();
+    if (error != ERROR_SUCCESS && error != ERROR_FILE_EXISTS && error != ERROR_ALREADY_EXISTS) fail();
   }
   neighbour_ = neighbour;
-  DeleteFileW((folder_ + std::wstring(kStep)).c_str());
   return written_.get();
+}
+
+/// Deletes the files that a write of a process that runs no more has left in the folder. Such that can't be
+/// deleted stay.
+void WindowsTarget::sweep_left_overs() const {
+  WIN32_FIND_DATAW entry;
+  const HANDLE search = FindFirstFileExW((folder_ + L"~vorlund-*.bak").c_str(), FindExInfoBasic, &entry,
+                                         FindExSearchNameMatch, nullptr, 0);
+  if (search == INVALID_HANDLE_VALUE) return;
+  do {
+    if (!is_left_over(from_wide(entry.cFileName))) continue;
+    const std::wstring left_over = folder_ + entry.cFileName;
+    SetFileAttributesW(left_over.c_str(), FILE_ATTRIBUTE_NORMAL);
+    DeleteFileW(left_over.c_str());
+  } while (FindNextFileW(search, &entry) != 0);
+  FindClose(search);
 }
 
 void WindowsTarget::finish(Durability durability) {
@@ -128,8 +136,13 @@ void WindowsTarget::settle_spelling() const {
   if (MoveFileExW(spelled.c_str(), long_path_.c_str(), 0) == 0) fail();
   if (spelled_as_asked()) return;
 
-  const std::wstring step = folder_ + std::wstring(kStep);
-  if (MoveFileExW(spelled.c_str(), step.c_str(), MOVEFILE_REPLACE_EXISTING) == 0) fail();
+  // Where a rename that changes nothing but case is passed over, as by Wine, the file takes a step over a
+  // name of this process's own. It holds the source's bytes by then, so a crash there loses nothing.
+  std::wstring step;
+  for (unsigned attempt = 0; step.empty() || find_entry(step); ++attempt) {
+    step = folder_ + to_wide(staging_name(attempt));
+  }
+  if (MoveFileExW(spelled.c_str(), step.c_str(), 0) == 0) fail();
   if (MoveFileExW(step.c_str(), long_path_.c_str(), 0) == 0) {
     const DWORD error = GetLastError();
     MoveFileExW(step.c_str(), spelled.c_str(), 0);

@@ -5,6 +5,7 @@
 #include <array>
 
 #include "core/action_error.h"
+#include "core/copier.h"
 #include "core/plain_name.h"
 #include "core/store.h"
 #include "core/text.h"
@@ -23,20 +24,14 @@ constexpr std::string_view kLoosePattern =
 /// Files of the game itself that the masks would take.
 constexpr std::array<std::string_view, 4> kSpared = {"DSG.ICO", "EXTRA.SPT", "CHATLINE.TXT", "HOF.DAT"};
 
-/// The folder that the careers row names. Wherever links in the store lead, it must lie in "GameStore", and
-/// be another than "Savedata", where a save moved home would be a save deleted. The store as a whole may be a
-/// link: players keep large stores on another disk.
+/// The folder that the careers row names, wherever links of the player's lead it, but for one: in "Savedata"
+/// a save moved home would be a save deleted.
 std::string careers_home(Environment& environment, const std::string& name) {
   const std::string home = environment.game.path(kCareersStore) + "\\" + name;
   const auto refused = [&home](const char* why) {
     return ActionError("bring the career saves home to", home, std::string(why) + "; no save was moved");
   };
-  const bool group_itself = name.empty();  // a cleared careers row names the folder of the group
-  const bool named = group_itself || is_plain_name(name);
-  if (!named || !environment.files.FolderExists(home)) throw refused("there is no such folder");
-  if (!environment.files.lies_inside(home, environment.game.path(kGameStore))) {
-    throw refused("it leads out of the store");
-  }
+  if (!stays_below(name) || !environment.files.FolderExists(home)) throw refused("there is no such folder");
   if (environment.files.lies_inside(home, environment.game.path(kSavedata))) {
     throw refused("it leads to \"Savedata\"");
   }
@@ -55,22 +50,18 @@ void refuse_shared_names(Environment& environment, const std::vector<std::string
 /// the place of both.
 void refuse_two_spellings_at_home(Environment& environment, const std::vector<std::string>& saves,
                                   const std::string& home) {
-  const std::vector<FolderEntry> there = environment.files.entries(home);
+  const std::vector<std::string> there = list_files(environment.files, home, kCareerPattern);
   for (const std::string& save : saves) {
-    const FolderEntry* first = nullptr;
-    for (const FolderEntry& entry : there) {
-      if (entry.kind != EntryKind::kFile || !same_name(entry.name, save)) continue;
-      if (first) {
-        throw ActionError("bring home the career save", environment.game.path(kSavedata) + "\\" + save,
-                          "\"" + home + "\" holds both \"" + std::min(first->name, entry.name) + "\" and \"" +
-                              std::max(first->name, entry.name) + "\"; no save was moved");
-      }
-      first = &entry;
+    if (std::count_if(there.begin(), there.end(),
+                      [&save](const std::string& name) { return same_name(name, save); }) > 1) {
+      throw ActionError("bring home the career save", environment.game.path(kSavedata) + "\\" + save,
+                        "\"" + home + "\" holds its name in two spellings; no save was moved");
     }
   }
 }
 
-std::uint64_t move_careers_home(Environment& environment, const std::string& name, FileList& savedata) {
+std::uint64_t move_careers_home(Environment& environment, Copier& copier, const std::string& name,
+                                FileList& savedata) {
   savedata.pattern = kCareerPattern;
   savedata.refresh(environment.files);
   if (savedata.names.empty()) return 0;
@@ -79,7 +70,8 @@ std::uint64_t move_careers_home(Environment& environment, const std::string& nam
   refuse_two_spellings_at_home(environment, savedata.names, home);
   for (const std::string& save : savedata.names) {
     const std::string source = environment.game.path(kSavedata) + "\\" + save;
-    environment.files.copy_file(source, home + "\\" + save, Durability::kFlushed);
+    copier.reach(save);
+    copier.copy(source, home + "\\" + save);
     environment.files.remove_file(source);
   }
   return savedata.names.size();
@@ -88,8 +80,11 @@ std::uint64_t move_careers_home(Environment& environment, const std::string& nam
 }  // namespace
 
 std::string CleanUpSummary::sentence() const {
-  return std::to_string(careers) + (careers == 1 ? " career save" : " career saves") + " brought home, " +
-         std::to_string(deleted) + (deleted == 1 ? " loose file" : " loose files") + " deleted";
+  std::string text;
+  if (careers > 0) text = counted(careers, "career save", "career saves") + " brought home to " + home;
+  if (careers > 0 && deleted > 0) text += "; ";
+  if (deleted > 0) text += counted(deleted, "loose file", "loose files") + " deleted";
+  return text.empty() ? "There was nothing to clean up" : text;
 }
 
 int careers_row(const GameTable& table) {
@@ -99,9 +94,19 @@ int careers_row(const GameTable& table) {
   return 0;
 }
 
+std::string careers_home_name(const GameTable& table) {
+  const int row = careers_row(table);
+  if (row == 0) return {};
+  const std::string& name = table.G2.cell(row, GameTable::kFolder);
+  return name.empty() ? "Careers" : "Careers\\" + name;
+}
+
+std::size_t count_career_saves(Environment& environment) {
+  return list_files(environment.files, environment.game.path(kSavedata), kCareerPattern).size();
+}
+
 CleanUpSummary clean_game_directory(Environment& environment, const GameTable& table, FileList& savedata) {
-  const FileSystem::Action action(
-      environment.files, [&] { environment.status.pulse(); }, environment.game.path(kStore));
+  Copier copier(environment);
   // The records are written at the end. Where they can't be, no set was ever installed, and the folder may be
   // any: nothing must be deleted there.
   if (!environment.files.FolderExists(environment.game.path(kStore))) {
@@ -113,18 +118,19 @@ CleanUpSummary clean_game_directory(Environment& environment, const GameTable& t
   const std::string kept_pattern = savedata.pattern;
   savedata.path = environment.game.path(kSavedata);
   if (const int row = careers_row(table); row > 0) {
-    summary.careers = move_careers_home(environment, table.G2.cell(row, GameTable::kFolder), savedata);
+    summary.careers =
+        move_careers_home(environment, copier, table.G2.cell(row, GameTable::kFolder), savedata);
+    summary.home = careers_home_name(table);
   }
   savedata.pattern = kept_pattern;
   savedata.refresh(environment.files);
   const std::vector<std::string> names =
       list_files(environment.files, environment.game.path(""), kLoosePattern);
-  for (std::size_t index = 0; index < names.size(); ++index) {
-    const std::string upper = to_upper(names[index]);
-    if (std::find(kSpared.begin(), kSpared.end(), upper) != kSpared.end()) continue;
-    environment.status.progress(
-        {names[index], static_cast<double>(index) / static_cast<double>(names.size())});
-    environment.files.remove_file(environment.game.path("\\") + names[index]);
+  copier.expect(summary.careers + names.size());
+  for (const std::string& name : names) {
+    copier.reach(name);
+    if (std::find(kSpared.begin(), kSpared.end(), to_upper(name)) != kSpared.end()) continue;
+    environment.files.remove_file(environment.game.path("\\") + name);
     ++summary.deleted;
   }
   return summary;

@@ -14,6 +14,7 @@ namespace vorlund {
 /// What a clean-up came to.
 struct CleanUpSummary {
   std::uint64_t careers = 0;  ///< career saves moved home
+  std::string home;           ///< where to: what `careers_home_name` gives
   std::uint64_t deleted = 0;  ///< loose files deleted
 
   /// One line for the player.
@@ -23,11 +24,17 @@ struct CleanUpSummary {
 /// Index of the last row whose group is exactly "Careers"; 0 when there is none.
 int careers_row(const GameTable& table);
 
+/// Where career saves go home to, as a path inside the game store ("Careers\Camp2"); "" where no row says it.
+std::string careers_home_name(const GameTable& table);
+
+/// Number of career saves in "Savedata".
+std::size_t count_career_saves(Environment& environment);
+
 /// Moves the career saves ("c*.sve" in "Savedata") into the folder that the careers row names, then deletes
 /// from the game directory itself the loose files that sets put there. `savedata` is the listing of
 /// "Savedata"; its pattern is restored. A save is deleted from "Savedata" only when its copy is on the disk.
 /// Before any save is moved it is an error when there are saves but no such folder, when links lead that
-/// folder out of the store, out of the game folder or to "Savedata", or when two saves differ in case alone.
+/// folder to "Savedata", or when two saves differ in case alone.
 /// An error ends the action; running it again completes it.
 CleanUpSummary clean_game_directory(Environment& environment, const GameTable& table, FileList& savedata);
 

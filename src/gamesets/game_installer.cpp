@@ -3,9 +3,11 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
+#include <utility>
 #include <vector>
 
-#include "core/listing.h"
+#include "core/copier.h"
 #include "core/plain_name.h"
 #include "core/store.h"
 #include "core/text.h"
@@ -15,48 +17,65 @@ namespace vorlund {
 
 namespace {
 
-std::string counted(std::uint64_t count, std::string_view one, std::string_view many) {
-  return std::to_string(count) + " " + std::string(count == 1 ? one : many);
-}
-
 class Installation {
  public:
-  Installation(Environment& environment, const GameTable& table) : environment_(environment), table_(table) {}
+  Installation(Environment& environment, const GameTable& table)
+      : environment_(environment), table_(table), copier_(environment) {}
 
   GameSetSummary run() {
-    for (row_ = 1; row_ < table_.G2.row_count(); ++row_) {
-      if (!table_.G2.cell(row_, GameTable::kFolder).empty()) install_row();
-    }
+    look_ahead();
+    for (const Row& row : rows_) install_row(row);
+    summary_.copied = copier_.copied();
+    summary_.unchanged = copier_.unchanged();
     return summary_;
   }
 
  private:
-  void install_row() {
-    const std::string& group = table_.G2.cell(row_, GameTable::kGroup);
-    const std::string& name = table_.G2.cell(row_, GameTable::kFolder);
-    const std::string folder = environment_.game.path(kGameStore) + "\\" + group + "\\" + name;
-    if (!is_plain_name(group) || !is_plain_name(name) || !environment_.files.FolderExists(folder)) {
-      ++summary_.missing;
+  /// A row that names a folder.
+  struct Row {
+    std::string name;                  ///< group, backslash, folder name
+    std::string folder;                ///< path of the folder
+    std::optional<ListedAhead> files;  ///< none where there is no such folder
+  };
+
+  void look_ahead() {
+    for (int index = 1; index < table_.G2.row_count(); ++index) {
+      const std::string& group = table_.G2.cell(index, GameTable::kGroup);
+      const std::string& folder_name = table_.G2.cell(index, GameTable::kFolder);
+      if (folder_name.empty()) continue;
+      Row row;
+      row.name = group + "\\" + folder_name;
+      row.folder = environment_.game.path(kGameStore) + "\\" + row.name;
+      if (stays_below(group) && stays_below(folder_name) && environment_.files.FolderExists(row.folder)) {
+        row.files.emplace(environment_.files, row.folder, "*.*");
+        copier_.expect(row.files->count());
+      }
+      rows_.push_back(std::move(row));
+    }
+  }
+
+  void install_row(const Row& row) {
+    if (!row.files) {
+      summary_.missing.push_back(row.name);
       return;
     }
     ++summary_.folders;
-    const std::vector<std::string> names = list_files(environment_.files, folder, "*.*");
-    for (std::size_t index = 0; index < names.size(); ++index) {
-      report(names[index], index, names.size());
-      install_file(folder + "\\" + names[index], names[index]);
+    for (const std::string& name : row.files->names()) {
+      copier_.reach(name);
+      install_file(row.folder + "\\" + name, name);
     }
   }
 
   void install_file(const std::string& source, const std::string& name) {
     switch (use_of_set_file(name)) {
       case SetFileUse::kGameDirectory:
-        copy(source, environment_.game.path("\\") + name);
+        copier_.copy(source, environment_.game.path("\\") + name);
         break;
       case SetFileUse::kSavedata:
-        copy(source, environment_.game.path(kSavedata) + "\\" + name);
+        copier_.copy(source, environment_.game.path(kSavedata) + "\\" + name);
         break;
       case SetFileUse::kMusic:
-        copy(source, environment_.game.path(kMusic) + "\\" + name);
+        copier_.copy(source, environment_.game.path(kMusic) + "\\" + name);
         break;
       case SetFileUse::kPatch:
         patch(source);
@@ -64,16 +83,6 @@ class Installation {
       default:
         ++summary_.kept;
     }
-  }
-
-  void copy(const std::string& source, const std::string& target) {
-    const CopyOutcome outcome = environment_.files.copy_file(source, target, durability_of(target));
-    ++(outcome == CopyOutcome::kWritten ? summary_.copied : summary_.unchanged);
-  }
-
-  /// A save may stand where the player's own save stood a moment ago, so it must be on the disk itself.
-  static Durability durability_of(std::string_view target) {
-    return to_upper(last_characters(target, 4)) == ".SVE" ? Durability::kFlushed : Durability::kCached;
   }
 
   void patch(const std::string& source) {
@@ -85,17 +94,23 @@ class Installation {
     ++summary_.patches;
   }
 
-  void report(std::string_view name, std::size_t index, std::size_t count) const {
-    const double rows = table_.G2.row_count() - 1;
-    const double within = static_cast<double>(index) / static_cast<double>(count);
-    environment_.status.progress({name, (row_ - 1 + within) / rows});
-  }
-
   Environment& environment_;
   const GameTable& table_;
+  Copier copier_;
+  std::vector<Row> rows_;
   GameSetSummary summary_;
-  int row_ = 0;
 };
+
+/// At most so many of the rows that were passed over are named.
+constexpr std::size_t kNamedRows = 3;
+
+std::string passed_over(const std::vector<std::string>& missing) {
+  std::string text = counted(missing.size(), "row", "rows") + " passed over, for want of a folder: ";
+  for (std::size_t index = 0; index < std::min(missing.size(), kNamedRows); ++index) {
+    text.append(index > 0 ? "; " : "").append(missing[index]);
+  }
+  return missing.size() > kNamedRows ? text + "; ..." : text;
+}
 
 }  // namespace
 
@@ -112,22 +127,24 @@ SetFileUse use_of_set_file(std::string_view name) {
   return SetFileUse::kGameDirectory;
 }
 
-std::string GameSetSummary::sentence() const {
-  std::string text = counted(folders, "folder", "folders");
-  text += ", " + counted(copied, "file", "files") + " copied";
-  if (unchanged > 0) text += ", " + std::to_string(unchanged) + " already in place";
-  text += ", " + std::to_string(kept) + " kept in the store";
-  text += ", " + counted(patches, "patch", "patches") + " into eaw.exe";
-  if (patches_passed > 0) {
-    text += ", " + counted(patches_passed, "patch", "patches") + " passed over: there is no eaw.exe";
-  }
-  if (missing > 0) text += ", " + counted(missing, "row", "rows") + " passed over: no such folder";
+std::string GameSetSummary::text() const {
+  std::vector<std::string> parts;
+  const auto say = [&parts](std::uint64_t count, const std::string& words) {
+    if (count > 0) parts.push_back(words);
+  };
+  say(folders, counted(folders, "folder", "folders"));
+  say(copied, counted(copied, "file", "files") + " copied");
+  say(unchanged, counted(unchanged, "file", "files") + " already in place");
+  say(kept, std::to_string(kept) + " kept in the store");
+  say(patches, counted(patches, "patch", "patches") + " into eaw.exe");
+  say(patches_passed, counted(patches_passed, "patch", "patches") + " passed over: there is no eaw.exe");
+  std::string text = parts.empty() ? "There was nothing to install" : "";
+  for (const std::string& part : parts) text.append(text.empty() ? "" : ", ").append(part);
+  if (!missing.empty()) text += "\n" + passed_over(missing);
   return text;
 }
 
 GameSetSummary install_game_set(Environment& environment, const GameTable& table) {
-  const FileSystem::Action action(
-      environment.files, [&] { environment.status.pulse(); }, environment.game.path(kStore));
   return Installation(environment, table).run();
 }
 

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "core/environment.h"
 #include "gamesets/game_table.h"
@@ -25,15 +26,16 @@ SetFileUse use_of_set_file(std::string_view name);
 /// What an installation came to.
 struct GameSetSummary {
   std::uint64_t folders = 0;         ///< set folders that were there
-  std::uint64_t missing = 0;         ///< rows whose folder does not exist or is no plain name
   std::uint64_t copied = 0;          ///< files written
   std::uint64_t unchanged = 0;       ///< files that stood in the game directory already, byte for byte
   std::uint64_t kept = 0;            ///< files that stay in the store
   std::uint64_t patches = 0;         ///< loader patches applied
   std::uint64_t patches_passed = 0;  ///< loader patches passed over for want of an executable
+  std::vector<std::string> missing;  ///< rows whose folder does not exist: group, backslash, folder name
 
-  /// One line for the player.
-  std::string sentence() const;
+  /// One line for the player, and a second one where rows were passed over, separated by "\n". What is 0 is
+  /// left out.
+  std::string text() const;
 };
 
 /// Copies and patches the files of every row of the table that names a folder. A later row's file replaces

@@ -1,6 +1,7 @@
 // The pane of the game table and its commands.
 #pragma once
 
+#include <optional>
 #include <string_view>
 
 #include "core/environment.h"
@@ -24,8 +25,8 @@ class GamePane {
   void GameLoad_Click();
   std::string last_outcome;  ///< what the last installation has come to, in plain words
 
-  /// `last_group` is the caption of the last group label of the selection pane.
-  void Label28_Click(std::string_view last_group);
+  /// `last_group` is the caption of the last group label of the selection pane, none while there is none.
+  void Label28_Click(std::optional<std::string_view> last_group);
   void Label29_Click();
 
   /// Makes the clicked row the current one.

@@ -31,13 +31,20 @@ void GameTable::select(int row) {
   G2.column = kFolder;
 }
 
-void GameTable::clear_current(std::string_view last_group) {
+std::string GameTable::current_in_words() const {
+  const std::string& folder = G2.cell(G2.row, kFolder);
+  return folder.empty() ? "The row of \"" + G2.cell(G2.row, kGroup) + "\"" : "\"" + folder + "\"";
+}
+
+void GameTable::clear_current(std::optional<std::string_view> last_group) {
   const int row = G2.row;
   if (row == 0) return;
   G2.set_cell(row, kFolder, "");
-  if (G2.cell(row, kGroup) == last_group) G2.rows.erase(G2.rows.begin() + row);
+  if (last_group == G2.cell(row, kGroup)) {
+    G2.rows.erase(G2.rows.begin() + row);
+    select(0);
+  }
   g2update();
-  select_shown_near(row);
 }
 
 void GameTable::move_current_to_end() {
@@ -47,17 +54,6 @@ void GameTable::move_current_to_end() {
   G2.rows.erase(G2.rows.begin() + row);
   g2update();
   select(G2.row_count() - 1);
-}
-
-void GameTable::select_shown_near(int row) {
-  int found = 0;
-  for (int next = row; next < G2.row_count() && found == 0; ++next) {
-    if (!G2.rows[static_cast<std::size_t>(next)].hidden) found = next;
-  }
-  for (int before = row - 1; before > 0 && found == 0; --before) {
-    if (before < G2.row_count() && !G2.rows[static_cast<std::size_t>(before)].hidden) found = before;
-  }
-  select(found);
 }
 
 }  // namespace vorlund

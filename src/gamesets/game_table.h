@@ -1,6 +1,8 @@
 // The game table: which folders of the store the game directory is composed of, in order.
 #pragma once
 
+#include <optional>
+#include <string>
 #include <string_view>
 
 #include "core/controls.h"
@@ -28,15 +30,16 @@ class GameTable {
   /// Makes a row the current row; the header row (0) and rows that are not there mean no selection.
   void select(int row);
 
-  /// Clears the folder name of the current row. A row of the group `last_group`, the only group that may own
-  /// several rows, is removed altogether. The next shown row becomes the current one.
-  void clear_current(std::string_view last_group);
+  /// The current row for the player: its folder name in quotation marks, or its group where that is cleared.
+  std::string current_in_words() const;
+
+  /// Clears the folder name of the current row, which stays the current one. A row of the group `last_group`,
+  /// the only group that may own several rows, is removed altogether; then no row is current. Without a
+  /// `last_group` every row stays.
+  void clear_current(std::optional<std::string_view> last_group);
 
   /// Moves the current row behind all others, to be installed last. It stays the current row.
   void move_current_to_end();
-
- private:
-  void select_shown_near(int row);
 };
 
 }  // namespace vorlund

@@ -12,10 +12,10 @@ namespace vorlund {
 /// to write (3 bytes each, little-endian, counted from 0, the last inclusive) and then the bytes; a last
 /// offset before the first writes nothing. Records follow each other until the end of the patch file; one
 /// that is cut short there is not applied. Offsets past the executable's end make it longer, zero-filled.
-void apply_loader_patch(std::string_view patch, PatchedBytes& executable);
+void apply_loader_patch(FileReader& patch, PatchedBytes& executable);
 
 /// Applies a patch file to the game's executable, which must exist. The executable is replaced whole.
-/// A patch file of more than 64 MiB is refused with an ActionError.
+/// The patch file may be of any length: one record is held at a time.
 void install_loader_patch(Environment& environment, std::string_view patch_path);
 
 }  // namespace vorlund

@@ -26,8 +26,8 @@ std::string quoted(std::string_view name) {
   return text.append(name).append("\"");
 }
 
-double whole_number(std::string_view line) {
-  return std::trunc(leading_number(line)) + 0.0;
+double whole_number(double value) {
+  return std::trunc(value) + 0.0;  // no minus sign before a 0
 }
 
 const char* role_of(double flags) {
@@ -64,8 +64,8 @@ void FlightModelBrowser::DoFM() {
   selection_.remove_group_labels();
   selection_.Dir1.open(environment_.files, environment_.game.path(kSkinStore));
   Dir3.path = flight_model_group_folder(environment_, plane_.table);
-  Dir3.names = Dir3.path.empty() ? std::vector<std::string>() : list_folders(environment_.files, Dir3.path);
-  selection_.work_on(PaneMode::kAircraftSet);
+  Dir3.names.clear();
+  if (!Dir3.path.empty()) Dir3.names = list_folders(environment_.files, Dir3.path);
   selection_.make_group_labels(selection_.Dir1.names);
   lists_.List2.items = Dir3.names;
   lists_.List2.selected = -1;
@@ -133,7 +133,7 @@ std::vector<FlightModelBrowser::SkinLabel> FlightModelBrowser::open_every_group(
 }
 
 void FlightModelBrowser::match_skins(const std::string& flight_model) {
-  const bool groups_are_gone = !selection_.Label1.front().visible && !selection_.Dir1.names.empty();
+  const bool groups_are_gone = !selection_.shows_groups() && !selection_.Dir1.names.empty();
   if (selection_.mode != PaneMode::kAircraftSet || groups_are_gone) {
     environment_.status.outcome(
         "Skins are matched in the aircraft settings alone: open them from the menu first");
@@ -176,7 +176,8 @@ void FlightModelBrowser::match_skins(const std::string& flight_model) {
   possible_skins_.Label35.caption = std::to_string(length);
   plane_.Frame1.visible = false;
   selection_.Frame3.visible = false;
-  plane_.table.select(plane_.table.G1.row, PlaneTable::kPlaneName);
+  PlaneTable& table = plane_.table;
+  table.select(table.selected_slot_row.value_or(table.G1.row), PlaneTable::kPlaneName);
   environment_.status.outcome(std::to_string(found.size()) +
                               (found.size() == 1 ? " skin has " : " skins have ") + quoted(beginning) +
                               " in the name");
@@ -196,26 +197,28 @@ std::string FlightModelBrowser::put_into_row(const std::string& flight_model) {
   }
   const std::vector<std::string> models = list_files(environment_.files, folder, "*.oaw");
   if (models.empty()) return quoted(flight_model).append(" holds no \".oaw\" file").append(kFolderAlone);
-  const std::string oaw = environment_.files.read_file(folder + "\\" + models.front(), ValueFile::kLongest);
-  const std::vector<std::string_view> lines = split_lines(oaw);
-  if (lines.size() < kFlightModelLines) {
+  ValueFile oaw(environment_.files, folder + "\\" + models.front());
+  FlightModelLines lines;
+  if (!oaw.at_end()) lines.title = oaw.title();
+  while (oaw.lines_read() < kFlightModelLines && !oaw.at_end()) lines.values.push_back(oaw.next_value());
+  if (oaw.lines_read() < kFlightModelLines) {
     return quoted(models.front())
-        .append(" has " + std::to_string(lines.size()) + " lines where " + std::to_string(kFlightModelLines))
-        .append(" are needed")
+        .append(" has " + std::to_string(oaw.lines_read()) + " lines where ")
+        .append(std::to_string(kFlightModelLines) + " are needed")
         .append(kFolderAlone);
   }
   describe(row, lines);
   return "Slot " + table.G1.cell(row, PlaneTable::kSlot) + " now flies " + quoted(flight_model);
 }
 
-void FlightModelBrowser::describe(int row, const std::vector<std::string_view>& lines) {
+void FlightModelBrowser::describe(int row, const FlightModelLines& lines) {
   Grid& table = plane_.table.G1;
-  table.set_cell(row, PlaneTable::kPlaneName, title_cell(lines[0]));
+  table.set_cell(row, PlaneTable::kPlaneName, title_cell(lines.title));
   if (table.cell(row, PlaneTable::kRecordNumber).empty()) {
-    table.set_cell(row, PlaneTable::kRecordNumber, number_text(whole_number(lines[1])));
+    table.set_cell(row, PlaneTable::kRecordNumber, number_text(whole_number(lines.values[0])));
   }
-  const double flags = whole_number(lines[5]);
-  table.set_cell(row, PlaneTable::kSide, side_of(flags, whole_number(lines[6])));
+  const double flags = whole_number(lines.values[4]);
+  table.set_cell(row, PlaneTable::kSide, side_of(flags, whole_number(lines.values[5])));
   table.set_cell(row, PlaneTable::kFlyable, std::fmod(flags, 8) > 3 ? "Yes" : "No");
   table.set_cell(row, PlaneTable::kRole, role_of(flags));
   table.set_cell(row, PlaneTable::kFuel, "100");

@@ -25,7 +25,7 @@ class FlightModelBrowser {
   FolderList Dir3;  ///< folders of the current flight-model group
 
   /// Prepares the panes for the aircraft work: labels of the skin groups, flight models, plane codes, the
-  /// slots of the plane table and the display names. The pane mode must be set before.
+  /// slots of the plane table and the display names. `work_on` must have been called before.
   void DoFM();
 
   /// Sets an option button and shows the list that belongs to it.
@@ -55,7 +55,13 @@ class FlightModelBrowser {
 
   /// Returns what it came to, in plain words.
   std::string put_into_row(const std::string& flight_model);
-  void describe(int row, const std::vector<std::string_view>& lines);
+  /// What is read of an ".oaw" file.
+  struct FlightModelLines {
+    std::string title;           ///< line 1, in the code page
+    std::vector<double> values;  ///< line 2 and on
+  };
+
+  void describe(int row, const FlightModelLines& lines);
   std::string selected_flight_model() const;
 
   Environment& environment_;

@@ -17,8 +17,6 @@ namespace {
 // Deliberately spelt unlike the rest of the store: the game's disks do not tell the two apart.
 constexpr std::string_view kSkinFolders = "\\~Vorlund\\Skinstore\\";
 
-constexpr std::uint64_t kLongestSkinList = 64ULL << 20;
-
 std::string quoted(std::string_view name) {
   std::string text = "\"";
   return text.append(name).append("\"");
@@ -37,11 +35,8 @@ void PossibleSkins::FillPossibleSkins() {
   const std::string slot = table.cell(table.row, PlaneTable::kSlot);
   Label38.caption = slot;
   Label37.caption = std::to_string(table.row - 1);
-  List4.items.clear();
-  const std::string path = environment_.game.path(kSkinList);
-  if (environment_.files.FileExists(path)) {
-    List4.items = skins_for_slot(decode_text(environment_.files.read_file(path, kLongestSkinList)), slot);
-  }
+  List4.items =
+      skins_for_slot(decode_text(environment_.files.read_file(environment_.game.path(kSkinList))), slot);
   open();
   if (List4.items.empty()) environment_.status.outcome("No skin in the skin list is made for slot " + slot);
 }
@@ -77,9 +72,8 @@ void PossibleSkins::List4_Click() {
   Image4.bordered = true;
   Image4.picture = {};
   Image4.fallback = load_picture(environment_.files, environment_.game.path(kDefaultPicture));
-  const bool plain = is_plain_name(Label31.caption) && is_plain_name(Label32.caption);
   const std::vector<FolderEntry> entries =
-      plain ? environment_.files.entries(folder) : std::vector<FolderEntry>();
+      stays_below(entry) ? environment_.files.entries(folder) : std::vector<FolderEntry>();
   const std::vector<std::string> pictures = matching_files(entries, kPicturePattern);
   if (!pictures.empty()) {
     Image4.picture = load_picture(environment_.files, folder + "\\" + pictures.front());
@@ -112,6 +106,7 @@ void PossibleSkins::Image4_Click() {
   const std::string& number = environment_.labels.SkinLab3.caption;
   // Deliberate: the skin goes to the plane that its files are made for; with no number yet that is the first.
   const int row = static_cast<int>(leading_number(number)) + 1;
+  table.selected_slot_row = row;
   if (row < table.G1.row_count()) {
     table.G1.set_cell(row, PlaneTable::kRegion, Label31.caption);
     table.G1.set_cell(row, PlaneTable::kSkinFolder, Label32.caption);

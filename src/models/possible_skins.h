@@ -12,7 +12,7 @@
 namespace vorlund {
 
 /// State and event handlers of `Frame4`. The labels keep their last values between uses. An entry of `List4`
-/// that does not name a plain group and a plain folder is shown like one whose folder holds no files.
+/// that leads out of the skin store is shown like one whose folder holds no files.
 class PossibleSkins {
  public:
   /// `selection_frame` and `description` are the selection pane's `Frame3` and `Text1`. All outlive the pane.
@@ -33,7 +33,8 @@ class PossibleSkins {
   Picture Image4;  ///< picture of the viewed skin; a click chooses the skin
 
   /// Lists the skins made for the current row of the plane table and shows the first. A slot code in lower
-  /// case finds nothing. Where nothing is found the pane opens empty.
+  /// case finds nothing. Where nothing is found the pane opens empty. A missing
+  /// skin list is an error.
   void FillPossibleSkins();
 
   /// Shows the selected entry: its picture and the plane that its files are made for.

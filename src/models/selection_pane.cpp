@@ -63,6 +63,11 @@ void SelectionPane::remove_group_labels() {
   Label1.front().visible = false;
 }
 
+std::optional<std::string_view> SelectionPane::last_group() const {
+  if (Label1.size() == 1 && !Label1.front().visible) return std::nullopt;
+  return Label1.back().caption;
+}
+
 void SelectionPane::Label1_Click(int index) {
   const std::string group = Label1.at(static_cast<std::size_t>(index)).caption;
   if (mode == PaneMode::kFlightModelGroup) {
@@ -77,9 +82,8 @@ void SelectionPane::Label1_Click(int index) {
   Text1.visible = false;
   Text1.text.clear();
   Image1.visible = false;
-  for (Label& label : Label27) label.visible = false;
+  shows_selection_ = false;
   list_group(group);
-  current_selection.clear();
   environment_.labels.Label42.caption = group;
   environment_.labels.Label42.visible = true;
   environment_.labels.Label2.visible = true;
@@ -95,7 +99,7 @@ void SelectionPane::list_group(const std::string& group) {
   SelLab.resize(1);
   RegionDir.path = group_folder();
   RegionDir.names.clear();
-  if (is_plain_name(group)) RegionDir.open(environment_.files, RegionDir.path);
+  if (stays_below(group)) RegionDir.open(environment_.files, RegionDir.path);
   for (std::size_t index = 0; index < RegionDir.names.size(); ++index) {
     if (index > 0) {
       SelLab.push_back(SelLab.back());
@@ -126,7 +130,7 @@ void SelectionPane::SelLab_Click(int index) {
     Image1.picture = load_picture(environment_.files, folder + "\\" + pictures.front());
   }
   if (mode == PaneMode::kAircraftSet) show_slot(folder);
-  Text1.visible = details_wanted_;
+  shows_selection_ = true;
   Image1.visible = true;
   for (Label& label : Label27) label.visible = true;
   labels.GroupLabel.caption = current_group;
@@ -151,7 +155,7 @@ void SelectionPane::show_slot(const std::string& folder) {
 }
 
 void SelectionPane::DoSel() {
-  if (current_selection.empty()) return;
+  if (!shows_selection_) return;
   if (mode == PaneMode::kAircraftSet) choose_skin();
   if (mode == PaneMode::kGameSet) choose_game_folder();
   ShowSelected();
@@ -181,23 +185,22 @@ void SelectionPane::choose_game_folder() {
   Frame3.visible = false;
   Grid& table = game_.table.G2;
   // Deliberate: only the last group by name may own several rows, and only for it is a row added.
-  int chosen_row = 0;
-  if (current_group < last_group()) {
+  bool chosen = false;
+  const auto last = last_group();
+  if (!last || current_group < *last) {
     for (int row = table.row_count() - 1; row > 0; --row) {
       if (table.cell(row, GameTable::kGroup) != current_group) continue;
       table.set_cell(row, GameTable::kFolder, current_selection);
-      chosen_row = row;
+      chosen = true;
     }
   } else {
     table.add_row({current_group, current_selection});
-    chosen_row = table.row_count() - 1;
+    chosen = true;
   }
   game_.table.g2update();
-  if (chosen_row > 0) game_.table.select(chosen_row);
   environment_.status.outcome(
-      chosen_row > 0
-          ? "\"" + current_selection + "\" now stands in the game table for \"" + current_group + "\""
-          : "Nothing was chosen: the game table has no row for the group \"" + current_group + "\"");
+      chosen ? "\"" + current_selection + "\" now stands in the game table for \"" + current_group + "\""
+             : "Nothing was chosen: the game table has no row for the group \"" + current_group + "\"");
 }
 
 void SelectionPane::ShowSelected() {
@@ -219,8 +222,7 @@ void SelectionPane::Label27_Click(int index) {
     Image1.visible = false;
     return;
   }
-  details_wanted_ = !Text1.visible;
-  Text1.visible = details_wanted_;
+  Text1.visible = !Text1.visible;
 }
 
 void SelectionPane::Frame3_Click() {

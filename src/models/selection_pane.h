@@ -2,7 +2,9 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "aircraft/plane_pane.h"
@@ -56,8 +58,14 @@ class SelectionPane {
   /// Removes all group labels but element 0.
   void remove_group_labels();
 
-  /// Caption of the group label with the highest index.
-  const std::string& last_group() const { return Label1.back().caption; }
+  /// True while there are group labels to click.
+  bool shows_groups() const { return Label1.front().visible; }
+
+  /// Caption of the group label with the highest index; none while the labels are removed.
+  std::optional<std::string_view> last_group() const;
+
+  /// True from the click on a selection until a group is opened.
+  bool shows_selection() const { return shows_selection_; }
 
   /// Opens group `index`, or in `kFlightModelGroup` makes it the current flight-model group.
   void Label1_Click(int index);
@@ -70,7 +78,7 @@ class SelectionPane {
   void SelLab_DblClick() { DoSel(); }
   void Image1_Click() { DoSel(); }
 
-  /// Puts the shown selection into the table of the running work. Without a selection it does nothing.
+  /// Puts the shown selection into the table of the running work. While none is shown it does nothing.
   void DoSel();
 
   /// Marks the selection labels whose folders are in use.
@@ -93,7 +101,7 @@ class SelectionPane {
   GamePane& game_;
   PlanePane& plane_;
   FlightModelLists& lists_;
-  bool details_wanted_ = true;
+  bool shows_selection_ = false;
 };
 
 }  // namespace vorlund

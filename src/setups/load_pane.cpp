@@ -46,7 +46,7 @@ void LoadPane::File3_Click(int index) {
 
 void LoadPane::Label19_Click() {
   const std::string caption = Label19.caption;
-  Label19.caption = "..working!";
+  Label19.caption = kWorkingCaption;
   environment_.status.repaint();
   std::string outcome;
   if (!Label20.caption.empty()) {

@@ -10,13 +10,6 @@
 
 namespace vorlund {
 
-namespace {
-
-/// Bytes that a file name may have on Linux; Windows allows as many characters.
-constexpr std::size_t kLongestName = 255;
-
-}  // namespace
-
 SavePane::SavePane(Environment& environment, const GamePane& game, const PlanePane& plane)
     : environment_(environment), game_(game), plane_(plane) {}
 
@@ -53,8 +46,7 @@ std::string SavePane::folder() const {
 void SavePane::Label4_Click() {
   const std::string& name = Text2.text;
   if (!name.empty()) {
-    if (name.size() > kLongestName || !is_plain_name(name, NameRules::kPosix) ||
-        !is_plain_name(name, NameRules::kWindows)) {
+    if (!is_portable_name(name) || is_staging_name(name)) {
       refusal.caption = "This can't be a file name: please choose another";
       refusal.visible = true;
       return;

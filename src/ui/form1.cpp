@@ -4,10 +4,12 @@
 #include <utility>
 
 #include "aircraft/plane_record.h"
+#include "core/copier.h"
 #include "core/store.h"
 #include "gamesets/clean_up.h"
 #include "gamesets/game_record.h"
 #include "models/skin_list.h"
+#include "setups/installed_sets.h"
 
 namespace vorlund {
 
@@ -144,6 +146,10 @@ void Form1::open_aircraft_work() {
   selection.Label41.visible = true;
   labels_.Label2.visible = true;
   say_next(selection.Dir1, kSkinStore, "Choose a group of skins, then a skin");
+  if (!plane.table.flight_model_group().empty()) return;
+  environment.status.outcome(status_line_.caption +
+                             "\nNo flight-model group is set: the flight models are the folders of "
+                             "\"~Vorlund\\FlightModels\" itself");
 }
 
 void Form1::open_game_work() {
@@ -181,6 +187,7 @@ void Form1::DelMSN_MouseUp(const MouseEvent& event) {
 }
 
 void Form1::delete_default_missions() {
+  environment.status.repaint();
   const std::uint64_t deleted = delete_listed_missions(environment, SavDatFile);
   environment.status.outcome(deleted == 0 ? "There is no \"Default\" mission file in \"Savedata\""
                                           : std::to_string(deleted) + " \"Default\" mission " +
@@ -191,7 +198,22 @@ void Form1::Label5_MouseUp(const MouseEvent& event) {
   if (!dragged(event, Label5) && event.button == MouseButton::kLeft) CleanUp();
 }
 
+void Form1::change_tables(const std::function<void()>& change) {
+  const std::string home_before = careers_home_name(game.table);
+  change();
+  selection.ShowSelected();
+  const std::string home = careers_home_name(game.table);
+  if (home == home_before) return;
+  const std::size_t saves = count_career_saves(environment);
+  if (saves == 0) return;
+  const std::string which = saves == 1 ? "The career save" : "The " + std::to_string(saves) + " career saves";
+  environment.status.outcome(
+      status_line_.caption + "\n" + which + " in \"Savedata\" would now " +
+      (home.empty() ? "stay there: no row names their home" : "go home to " + home + " at \"Clean Up\""));
+}
+
 void Form1::CleanUp() {
+  environment.status.repaint();
   const CleanUpSummary summary = clean_game_directory(environment, game.table, SavDatFile);
   for (int row = 1; row < game.table.G2.row_count(); ++row) {
     game.table.G2.set_cell(row, GameTable::kFolder, "");
@@ -205,6 +227,7 @@ void Form1::CleanUp() {
   save_pane.SaveFrame.visible = false;
   labels_.Label2.visible = false;
   selection.remove_group_labels();
+  selection.ShowSelected();
   environment.status.outcome(summary.sentence());
 }
 
@@ -232,18 +255,28 @@ void Form1::Label6_MouseUp() {
 void Form1::WhatsLoaded_Click() {
   plane.show_in_front();
   game.show_in_front();
+  environment.status.outcome(what_is_installed(environment, game.table, plane.table));
 }
 
 void Form1::Image4_Click() {
-  possible_skins.Image4_Click();
-  browser.apply_matched_skin();
+  change_tables([this] {
+    possible_skins.Image4_Click();
+    browser.apply_matched_skin();
+  });
+}
+
+void Form1::SelLab_DblClick() {
+  change_tables([this] { selection.SelLab_DblClick(); });
+}
+
+void Form1::Image1_Click() {
+  change_tables([this] { selection.Image1_Click(); });
 }
 
 void Form1::Label19_Click() {
-  load_pane.Label19_Click();
+  change_tables([this] { load_pane.Label19_Click(); });
   // Without a running work "Label2" would bring no table back: then it is that of the set-up last loaded.
-  const bool idle = labels_.Label2.caption.empty() && !selection.Label1.front().visible;
-  if (!idle) return;
+  if (!labels_.Label2.caption.empty() || selection.shows_groups()) return;
   if (!load_pane.Label21.caption.empty()) {
     selection.work_on(PaneMode::kGameSet);
   } else if (!load_pane.Label20.caption.empty()) {
@@ -251,8 +284,16 @@ void Form1::Label19_Click() {
   }
 }
 
+void Form1::Label3_Click() {
+  change_tables([this] { plane.Label3_Click(); });
+}
+
 void Form1::Label28_Click() {
-  game.Label28_Click(selection.last_group());
+  change_tables([this] { game.Label28_Click(selection.last_group()); });
+}
+
+void Form1::Label29_Click() {
+  change_tables([this] { game.Label29_Click(); });
 }
 
 }  // namespace vorlund

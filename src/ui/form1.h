@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -106,11 +107,15 @@ class Form1 {
 
   void WhatsLoaded_Click();
 
-  // Handlers whose work crosses panes.
+  // Handlers whose work crosses panes. Those that change a table mark the selections in use anew.
   void Label17_Click();
   void Label19_Click();
+  void Label3_Click();
   void Label28_Click();
+  void Label29_Click();
   void Image4_Click();
+  void SelLab_DblClick();
+  void Image1_Click();
 
   /// Deletes the "Default*.msn" files of "Savedata".
   void delete_default_missions();
@@ -127,6 +132,10 @@ class Form1 {
   /// Says in the status line what to do next, or that the folder of the store holds nothing to do it with.
   void say_next(const FolderList& groups, std::string_view store, std::string_view next);
   bool dragged(const MouseEvent& event, Label& label);
+
+  /// Runs what may change the tables. Then the selections in use are marked anew, and where career saves
+  /// would now go home to another folder the status line says so.
+  void change_tables(const std::function<void()>& change);
 
   Version version_;
   DragOrigin drag_;

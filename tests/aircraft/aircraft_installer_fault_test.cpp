@@ -58,7 +58,7 @@ class InstalledFolder {
 };
 
 bool is_neighbour(const std::string& name) {
-  return name.ends_with("~vorlund.bak");
+  return is_staging_name(name.substr(name.rfind('/') + 1));
 }
 
 /// Notes the whole folder before each operation that changes it: the states an undisturbed run goes through.

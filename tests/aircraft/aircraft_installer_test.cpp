@@ -86,14 +86,31 @@ TEST_F(AircraftInstaller, MissingGroupCopiesNothingAndGoesOn) {
       (std::vector<std::string>{"there is no flight-model group \"1939\", so none was installed", kNoNames}));
 }
 
-TEST_F(AircraftInstaller, EmptyGroupInstallsNothingOfTheFlightModelsFolderItself) {
+TEST_F(AircraftInstaller, WithoutANameListTheMenusKeepTheirNames) {
+  std::string menu(35, 'h');
+  for (const char* name : {"A", "B", "C", "D", "E", "F", "G", "H", "I"}) {
+    menu += "\2\0\0\0"s + name + '\0' + std::string(15, 't');
+  }
+  folder.write("picplnb.mnu", menu + "tail");
+  EXPECT_EQ(install().menus, 1u);
+  EXPECT_EQ(folder.read("picplnb.mnu"), menu) << "read and written, what followed is dropped";
+  write_names({"N0"});
+  names.LoadPnames(environment);
+  folder.write("picplnb.mnu", menu);
+  files->remove_file(folder.path("pnames.str"));
+  install();
+  EXPECT_NE(folder.read("picplnb.mnu"), menu) << "a list that was read since the start gives the names";
+}
+
+TEST_F(AircraftInstaller, AnEmptyGroupIsTheFolderOfAllGroups) {
   folder.write("~Vorlund/FlightModels/stray.dat", "stray");
   table.set_flight_model_group("");
   const AircraftSummary summary = install();
-  EXPECT_TRUE(game_names().empty());
+  EXPECT_EQ(folder.read("stray.dat"), "stray");
   EXPECT_EQ(
       summary.remarks,
-      (std::vector<std::string>{"no flight-model group is set, so no flight model was installed", kNoNames}));
+      (std::vector<std::string>{
+          "no flight-model group is set, so \"~Vorlund\\FlightModels\" itself was taken for it", kNoNames}));
 }
 
 TEST_F(AircraftInstaller, FlightModelFileIsCopiedUnderTheSlotCode) {

@@ -3,6 +3,7 @@
 
 #include "aircraft/aircraft_fixture.h"
 #include "aircraft/number_text.h"
+#include "core/text.h"
 
 namespace vorlund {
 namespace {
@@ -303,21 +304,30 @@ TEST_F(PlanesData, EmptyScriptFolderMeansTheGroupItself) {
   EXPECT_EQ(planes()[4], '\6');
 }
 
-TEST_F(PlanesData, EmptyGroupCountsAsAFolderThatDoesNotExist) {
+TEST_F(PlanesData, AnEmptyGroupIsTheFolderOfAllGroups) {
   folder.write("~Vorlund/FlightModels/stray.oaw", Values("6").text());
-  folder.write("~Vorlund/FlightModels/Spit9/stray.oaw", Values("6").text());
+  folder.write("~Vorlund/FlightModels/Spit9/spit.oaw", Values("7").text());
   table.set_flight_model_group("");
-  for (const char* name : {"", "Spit9"}) {
+  for (const auto& [name, byte] : {std::pair("", '\6'), std::pair("Spit9", '\7')}) {
     table.G1.set_cell(1, PlaneTable::kScriptFolder, name);
-    EXPECT_EQ(OawWrite(environment, table, 1, selected), OawOutcome::kNoFlightModel) << name;
+    EXPECT_EQ(OawWrite(environment, table, 1, selected), OawOutcome::kWritten) << name;
+    EXPECT_EQ(folder.read("Planes.dat")[4], byte) << name;
   }
 }
 
-TEST_F(PlanesData, EnormousFlightModelIsRefused) {
-  model("Spit9/spit.oaw", std::string(1024 * 1024 + 1, '\n'));
-  const std::string report = error();
-  EXPECT_NE(report.find("spit.oaw"), std::string::npos) << report;
-  EXPECT_NE(report.find("longer than 1 MiB"), std::string::npos) << report;
+TEST_F(PlanesData, AFlightModelIsReadAsFarAsItsLinesWhateverFollows) {
+  const std::string lines = Values("6").text();
+  model("Spit9/spit.oaw", lines);
+  EXPECT_EQ(error(), "");
+  const std::string expected = folder.read("Planes.dat");
+  folder.write("Planes.dat", "");
+  std::string long_lines;
+  for (const std::string_view line : split_lines(lines)) {
+    long_lines.append(line).append(" ").append(50'000, 'x').append("\r\n");
+  }
+  model("Spit9/spit.oaw", long_lines + std::string(3 << 20, '\n') + "what follows is ignored");
+  EXPECT_EQ(error(), "");
+  EXPECT_EQ(folder.read("Planes.dat"), expected);
 }
 
 TEST(NumberText, SpellsNumbersAsAPersonWould) {

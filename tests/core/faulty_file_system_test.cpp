@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "core/action_error.h"
+#include "support/left_over.h"
 #include "support/recording_file_system.h"
 #include "support/temporary_folder.h"
 
@@ -41,7 +42,7 @@ TEST_F(FaultyFileSystemTest, FailsPersistentlyFromTheNumberOn) {
   EXPECT_FALSE(files_.failed());
   EXPECT_THROW(files_.remove_file(folder_.path("a")), ActionError);
   EXPECT_THROW(files_.entries(folder_.path()), ActionError);
-  EXPECT_THROW(files_.file_size(folder_.path("a")), ActionError);
+  EXPECT_THROW(files_.open_file(folder_.path("a")), ActionError);
   EXPECT_THROW(files_.current_folder(), ActionError);
   EXPECT_THROW(files_.start_program(folder_.path("a"), folder_.path()), ActionError);
   EXPECT_TRUE(files_.failed());
@@ -51,7 +52,7 @@ TEST_F(FaultyFileSystemTest, FailsPersistentlyFromTheNumberOn) {
 TEST_F(FaultyFileSystemTest, AShortWriteLeavesHalfInTheNeighbourAndTheTargetWhole) {
   folder_.write("source", "12345678");
   folder_.write("target", "old");
-  const std::string neighbour(neighbour_name("target"));
+  const std::string neighbour = left_over_name();
   for (const FaultKind kind : {FaultKind::kShortWrite, FaultKind::kDiskFull}) {
     files_.arm({1, kind, FaultSpan::kPersistent});
     EXPECT_EQ(files_.read_file(folder_.path("target")), "old");
@@ -102,13 +103,12 @@ TEST(RecordingFileSystem, LogsWhatIsAskedInOrder) {
   files.entries(folder.path());
   files.read_file(a);
   files.read_file(a, 1);
-  files.file_size(a);
   files.remove_file(b);
   EXPECT_THROW(files.start_program(b, folder.path()), ActionError);
-  EXPECT_EQ(files.log(), (Names{"begin action", "replace " + a + " (flushed)", "copy " + a + " -> " + b,
-                                "end action", "file exists " + a, "folder exists " + a,
-                                "list " + folder.path(), "read " + a, "read the first 1 of " + a, "size " + a,
-                                "remove " + b, "start " + b + " in " + folder.path()}));
+  EXPECT_EQ(files.log(),
+            (Names{"begin action", "replace " + a + " (flushed)", "copy " + a + " -> " + b, "end action",
+                   "file exists " + a, "folder exists " + a, "list " + folder.path(), "read " + a,
+                   "read " + a, "remove " + b, "start " + b + " in " + folder.path()}));
   EXPECT_EQ(files.changes(), (Names{"replace " + a + " (flushed)", "copy " + a + " -> " + b, "remove " + b,
                                     "start " + b + " in " + folder.path()}));
   files.clear();

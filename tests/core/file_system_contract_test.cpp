@@ -8,6 +8,7 @@
 #include "core/file_system.h"
 #include "core/text.h"
 #include "support/faulty_file_system.h"
+#include "support/left_over.h"
 #include "support/recording_file_system.h"
 #include "support/temporary_folder.h"
 
@@ -131,13 +132,13 @@ TEST_P(FileSystemContract, AFileIsReadWholeOrUpToALimit) {
   EXPECT_EQ(files().read_file(path, 4), "0123");
   EXPECT_EQ(files().read_file(path, bytes.size()), bytes);
   EXPECT_EQ(files().read_file(path, 1000), bytes);
-  EXPECT_EQ(files().file_size(path), bytes.size());
+  EXPECT_EQ(files().open_file(path)->size(), bytes.size());
 }
 
 TEST_P(FileSystemContract, AnEmptyFileIsReadAndCopied) {
   folder_.write("empty", "");
   EXPECT_EQ(files().read_file(folder_.path("empty")), "");
-  EXPECT_EQ(files().file_size(folder_.path("empty")), 0U);
+  EXPECT_EQ(files().open_file(folder_.path("empty"))->size(), 0U);
   EXPECT_EQ(files().copy_file(folder_.path("empty"), folder_.path("copy"), Durability::kCached),
             CopyOutcome::kWritten);
   EXPECT_EQ(folder_.read("copy"), "");
@@ -149,9 +150,9 @@ TEST_P(FileSystemContract, ReadingWhatIsNotAFileIsAnErrorThatNamesThePath) {
   folder_.make_folder("folder");
   for (const std::string& path :
        {folder_.path("nothing"), folder_.path("folder"), folder_.path("no\\where"), ""s}) {
-    for (const bool size : {true, false}) {
+    for (const bool open : {true, false}) {
       try {
-        size ? static_cast<void>(files().file_size(path)) : static_cast<void>(files().read_file(path));
+        open ? static_cast<void>(files().open_file(path)) : static_cast<void>(files().read_file(path));
         ADD_FAILURE() << "no error for " << path;
       } catch (const ActionError& error) {
         EXPECT_EQ(error.path(), path);
@@ -273,14 +274,52 @@ TEST_P(FileSystemContract, AFailedReplacementLeavesEverythingAsItWas) {
   EXPECT_EQ(folder_.tree(), before);
 }
 
-TEST_P(FileSystemContract, ALeftOverNeighbourIsTakenOver) {
-  folder_.write(neighbour_name("target"), "half of something");
+TEST_P(FileSystemContract, AFileIsReadInSteps) {
+  folder_.write("file", "0123456789");
+  const auto file = files().open_file(folder_.path("FILE"));
+  std::string bytes(4, '\0');
+  EXPECT_EQ(file->read(bytes.data(), 4), 4U);
+  EXPECT_EQ(bytes, "0123");
+  EXPECT_EQ(file->read(bytes.data(), 4), 4U);
+  EXPECT_EQ(bytes, "4567");
+  EXPECT_EQ(file->read(bytes.data(), 4), 2U);
+  EXPECT_EQ(bytes.substr(0, 2), "89");
+  EXPECT_EQ(file->read(bytes.data(), 4), 0U);
+}
+
+TEST_P(FileSystemContract, WhatACrashLeftIsSweptByTheNextWriteInItsFolder) {
+  folder_.write(test::left_over_name(), "half of something");
   files().replace_file(folder_.path("target"), "new", Durability::kCached);
   EXPECT_EQ(folder_.tree(), (Tree{{"target", "new"}}));
 }
 
-TEST_P(FileSystemContract, AFileWithTheNameOfTheNeighbourIsWrittenToo) {
-  const std::string name(neighbour_name("target"));
+TEST_P(FileSystemContract, NoFileOfThePlayersIsTakenForALeftOver) {
+  const Tree files_of_the_player = {{"~vorlund.bak", "1"},
+                                    {"~vorlund2.bak", "2"},
+                                    {"~vorlund-.bak", "3"},
+                                    {staging_name(0), "4"},
+                                    {staging_name(1), "5"},
+                                    {"~vorlund-x7ffffffe-0.bak", "6"},
+                                    {"~vorlund-case.bak", "7"},
+                                    {"~vorlund-p07ffffffe-0.bak", "8"},
+                                    {"~vorlund-w07ffffffe-0.bak", "9"},
+                                    {"~vorlund-p7ffffffe-0.bak.txt", "10"}};
+  for (const auto& [name, bytes] : files_of_the_player) folder_.write(name, bytes);
+  Tree expected = files_of_the_player;
+  files().replace_file(folder_.path("target"), "new", Durability::kCached);
+  files().copy_file(folder_.path("target"), folder_.path("copy"), Durability::kCached);
+  expected.insert({{"target", "new"}, {"copy", "new"}});
+  EXPECT_EQ(folder_.tree(), expected);
+}
+
+TEST_P(FileSystemContract, AFolderOfTheStagingNameIsGoneRound) {
+  folder_.make_folder(staging_name(0));
+  files().replace_file(folder_.path("target"), "new", Durability::kCached);
+  EXPECT_EQ(folder_.tree(), (Tree{{staging_name(0) + "/", ""}, {"target", "new"}}));
+}
+
+TEST_P(FileSystemContract, AFileOfTheStagingNameIsWrittenToo) {
+  const std::string name = staging_name(0);
   files().replace_file(folder_.path(name), "first", Durability::kCached);
   files().replace_file(folder_.path(to_upper(name)), "second", Durability::kCached);
   EXPECT_EQ(folder_.tree(), (Tree{{name, "second"}}));

@@ -14,6 +14,7 @@
 
 #include "core/action_error.h"
 #include "core/file_system.h"
+#include "support/left_over.h"
 #include "support/temporary_folder.h"
 
 namespace vorlund {
@@ -171,10 +172,12 @@ TEST_F(PosixFileSystemTest, ALinkToTheSourceIsReplacedByACopy) {
 TEST_F(PosixFileSystemTest, ALeftOverNeighbourThatIsALinkIsNotFollowed) {
   const test::TemporaryFolder outside;
   outside.write("precious", "untouched");
-  link_to(outside.path() + "/precious", std::string(neighbour_name("target")));
+  link_to(outside.path() + "/precious", test::left_over_name());
+  link_to(outside.path() + "/precious", staging_name(0));
   replace("target", "new");
   EXPECT_EQ(outside.tree(), (Tree{{"precious", "untouched"}}));
-  EXPECT_EQ(folder_.tree(), (Tree{{"target", "new"}}));
+  EXPECT_EQ(folder_.tree(),
+            (Tree{{staging_name(0), "-> " + outside.path() + "/precious"}, {"target", "new"}}));
 }
 
 TEST_F(PosixFileSystemTest, ASourceMayBeALink) {

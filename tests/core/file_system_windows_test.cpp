@@ -10,6 +10,7 @@
 #include "core/file_system.h"
 #include "core/windows_file.h"
 #include "core/windows_path.h"
+#include "support/left_over.h"
 #include "support/temporary_folder.h"
 
 namespace vorlund {
@@ -92,8 +93,8 @@ TEST_F(WindowsFileSystemTest, AReadOnlyFileIsNeitherReplacedNorRemoved) {
             CopyOutcome::kUnchanged);
 }
 
-TEST_F(WindowsFileSystemTest, AReadOnlyOrHiddenLeftOverNeighbourIsTakenOver) {
-  const std::string neighbour(neighbour_name("target"));
+TEST_F(WindowsFileSystemTest, AReadOnlyOrHiddenLeftOverIsSwept) {
+  const std::string neighbour = test::left_over_name();
   for (const DWORD attributes : {DWORD{FILE_ATTRIBUTE_READONLY}, DWORD{FILE_ATTRIBUTE_HIDDEN}}) {
     folder_.write(neighbour, "half");
     set_attributes(neighbour, attributes);

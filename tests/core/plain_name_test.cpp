@@ -11,8 +11,8 @@ namespace {
 
 using namespace std::string_view_literals;
 
-/// Not plain on any platform.
-const std::string_view kHostileEverywhere[] = {
+/// No name for a file on any platform, or on Linux alone.
+const std::string_view kHostile[] = {
     // nothing, dots and blanks
     ""sv, " "sv, "   "sv, "."sv, ".."sv, "..."sv, "...."sv, " ."sv, ". "sv, " .."sv, ".. "sv, ". ."sv,
     ".. .."sv, ".  ."sv,
@@ -32,7 +32,7 @@ const std::string_view kHostileEverywhere[] = {
     "\0"sv, "x\0y"sv, "x\0"sv, "\0x"sv, "..\0"sv, "x\0/../y"sv, "\t"sv, "x\ty"sv, "x\n"sv, "x\r"sv, "x\r\n"sv,
     "\x01"sv, "x\x1F"sv, "\x1Bx"sv, "x\x7F"sv, "\bx"sv, "x\v"sv, "x\f"sv};
 
-/// Plain on POSIX alone: on Windows these are devices, can't be written, or name something else.
+/// On Windows these are devices, can't be written, or name something else.
 const std::string_view kHostileOnWindows[] = {
     "CON"sv,         "con"sv,         "Con"sv,       "PRN"sv,
     "AUX"sv,         "NUL"sv,         "nul"sv,       "COM0"sv,
@@ -49,8 +49,8 @@ const std::string_view kHostileOnWindows[] = {
     "Careers."sv,    "Careers "sv,    "caf\xE9"sv,   "\xC0\xAE\xC0\xAE"sv,
     "\xC0\xAF"sv,    "\xED\xA0\x80"sv};
 
-/// Plain everywhere, however odd they look.
-const std::string_view kPlain[] = {
+/// Names for a file everywhere, however odd they look.
+const std::string_view kPortable[] = {
     "Careers"sv,  "My career 1"sv, "caf\u00E9"sv, "\u65E5\u672C"sv, "\U0001F6E9"sv, "a.b.c"sv,
     ".hidden"sv,  "..x"sv,         "...x"sv,      "x..y"sv,         "-rf"sv,        "~"sv,
     "~Vorlund"sv, "$HOME"sv,       "%TEMP%"sv,    "`id`"sv,         "$(id)"sv,      "a&b"sv,
@@ -64,43 +64,55 @@ std::string shown(std::string_view name) {
   return testing::PrintToString(std::string(name));
 }
 
-TEST(PlainName, AtLeastAHundredHostileNamesAreRefused) {
-  EXPECT_GE(std::size(kHostileEverywhere) + std::size(kHostileOnWindows), 100U);
-  for (const std::string_view name : kHostileEverywhere) {
-    EXPECT_FALSE(is_plain_name(name, NameRules::kPosix)) << shown(name);
-    EXPECT_FALSE(is_plain_name(name, NameRules::kWindows)) << shown(name);
-  }
+TEST(PlainName, AtLeastAHundredHostileNamesAreNoneForAFile) {
+  EXPECT_GE(std::size(kHostile) + std::size(kHostileOnWindows), 100U);
+  for (const std::string_view name : kHostile) EXPECT_FALSE(is_portable_name(name)) << shown(name);
+  for (const std::string_view name : kHostileOnWindows) EXPECT_FALSE(is_portable_name(name)) << shown(name);
 }
 
-TEST(PlainName, NamesThatOnlyWindowsReadsOtherwiseAreRefusedThere) {
-  for (const std::string_view name : kHostileOnWindows) {
-    EXPECT_FALSE(is_plain_name(name, NameRules::kWindows)) << shown(name);
-    EXPECT_TRUE(is_plain_name(name, NameRules::kPosix)) << shown(name);
-  }
-}
-
-TEST(PlainName, OddButHarmlessNamesArePlain) {
-  for (const std::string_view name : kPlain) {
-    EXPECT_TRUE(is_plain_name(name, NameRules::kPosix)) << shown(name);
-    EXPECT_TRUE(is_plain_name(name, NameRules::kWindows)) << shown(name);
-  }
+TEST(PlainName, OddButHarmlessNamesAreForAFile) {
+  for (const std::string_view name : kPortable) EXPECT_TRUE(is_portable_name(name)) << shown(name);
+  EXPECT_TRUE(is_portable_name(std::string(255, 'a')));
+  EXPECT_FALSE(is_portable_name(std::string(256, 'a')));
 }
 
 TEST(PlainName, EveryControlCharacterIsRefused) {
   for (char character = 0; character < 0x20; ++character) {
-    const std::string name = std::string("a") + character + "b";
-    EXPECT_FALSE(is_plain_name(name, NameRules::kPosix)) << int{character};
-    EXPECT_FALSE(is_plain_name(name, NameRules::kWindows)) << int{character};
+    EXPECT_FALSE(is_portable_name(std::string("a") + character + "b")) << int{character};
   }
 }
 
-TEST(PlainName, ThePlatformsOwnRulesApplyByDefault) {
-#ifdef _WIN32
-  EXPECT_FALSE(is_plain_name("NUL"));
-#else
-  EXPECT_TRUE(is_plain_name("NUL"));
-#endif
-  EXPECT_FALSE(is_plain_name(".."));
+TEST(PlainName, OneOrTwoDotsBetweenSeparatorsLeadOutOfTheFolder) {
+  for (const std::string_view name :
+       {"..", ".", "../x", "..\\x", "x/..", "x\\..", "./x", ".\\x", "x/./y", "x\\..\\y", "/..", "\\..",
+        "..\\", "..\\../x", "Careers\\..\\..\\eaw.exe", "C:\\..\\x"}) {
+    EXPECT_FALSE(stays_below(name)) << shown(name);
+  }
+}
+
+TEST(PlainName, WhateverElseStaysBelowItsFolder) {
+  for (const std::string_view name : {"",
+                                      "Dusk\\sub",
+                                      "Dusk/sub",
+                                      "Battle: Berlin",
+                                      "Ends in a dot.",
+                                      "Ends in a blank ",
+                                      "...",
+                                      ". .",
+                                      "..x",
+                                      "x..",
+                                      " ..",
+                                      ".. ",
+                                      "/etc",
+                                      "\\Windows",
+                                      "C:",
+                                      "C:\\Windows",
+                                      "a//b",
+                                      "NUL",
+                                      "*",
+                                      "caf\xE9"}) {
+    EXPECT_TRUE(stays_below(name)) << shown(name);
+  }
 }
 
 }  // namespace

@@ -10,6 +10,7 @@
 #include <filesystem>
 
 #include "core/file_system.h"
+#include "support/left_over.h"
 #include "support/temporary_folder.h"
 
 namespace vorlund {
@@ -49,15 +50,15 @@ TEST_F(TwoDisks, AFolderOfTheOneDoesNotLieInTheOther) {
 }
 
 TEST_F(TwoDisks, AStagingFolderOnTheOtherServesNot) {
-  const std::string neighbour(neighbour_name("any"));
-  files_->replace_file(other_disk_ + "\\" + neighbour, "would be taken over", Durability::kCached);
+  const std::string left_over = test::left_over_name();
+  files_->replace_file(other_disk_ + "\\" + left_over, "would be swept", Durability::kCached);
   folder_.write("source", "new");
   {
     const FileSystem::Action action(*files_, {}, other_disk_);
     files_->copy_file(folder_.path("source"), folder_.path("copy"), Durability::kCached);
   }
   EXPECT_EQ(folder_.read("copy"), "new");
-  EXPECT_EQ(files_->read_file(other_disk_ + "\\" + neighbour), "would be taken over");
+  EXPECT_EQ(files_->read_file(other_disk_ + "\\" + left_over), "would be swept");
 }
 
 /// A btrfs in an image file, mounted meanwhile.

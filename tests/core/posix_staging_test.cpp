@@ -3,6 +3,7 @@
 #include <sys/stat.h>
 
 #include "core/file_system.h"
+#include "support/left_over.h"
 #include "support/temporary_folder.h"
 
 namespace vorlund {
@@ -39,32 +40,32 @@ class Staging : public testing::Test {
 
   test::TemporaryFolder folder_;
   std::unique_ptr<FileSystem> files_ = make_platform_file_system();
-  const std::string neighbour_{neighbour_name("any")};
+  const std::string left_over_ = test::left_over_name();
 };
 
 TEST_F(Staging, ACopyIsWrittenInTheStagingFolderAndNotBesideItsTarget) {
-  // A folder of the neighbour's name is in the way of every write beside the target.
-  folder_.make_folder("Game/" + neighbour_);
+  // What a crash left shows where something is written: it is swept there.
+  folder_.write("Game/" + left_over_, "half");
   copy_set(folder_.path("STORE"));
-  expect_copied({{"Game/" + neighbour_ + "/", ""}, {"Store/", ""}});
+  expect_copied({{"Game/" + left_over_, "half"}, {"Store/", ""}});
 }
 
 TEST_F(Staging, ACopyThatIsFlushedIsWrittenThereToo) {
-  folder_.make_folder("Game/" + neighbour_);
+  folder_.write("Game/" + left_over_, "half");
   copy_set(folder_.path("Store"), Durability::kFlushed);
-  expect_copied({{"Game/" + neighbour_ + "/", ""}, {"Store/", ""}});
+  expect_copied({{"Game/" + left_over_, "half"}, {"Store/", ""}});
 }
 
-TEST_F(Staging, WhatACrashLeftInTheStagingFolderIsTakenOver) {
-  folder_.write("Store/" + neighbour_, "half of something");
+TEST_F(Staging, WhatACrashLeftInTheStagingFolderIsSwept) {
+  folder_.write("Store/" + left_over_, "half of something");
   copy_set(folder_.path("Store"));
   expect_copied();
 }
 
-TEST_F(Staging, WhereNothingCanBeWrittenThereACopyIsWrittenBesideItsTarget) {
-  folder_.make_folder("Store/" + neighbour_);
+TEST_F(Staging, WhatThePlayerKeepsThereUnderItsNameStays) {
+  folder_.write("Store/" + staging_name(0), "the player's");
   copy_set(folder_.path("Store"));
-  expect_copied({{"Store/" + neighbour_ + "/", ""}});
+  expect_copied({{"Store/" + staging_name(0), "the player's"}});
 }
 
 TEST_F(Staging, WhereThereIsNoStagingFolderACopyIsWrittenBesideItsTarget) {
@@ -75,18 +76,19 @@ TEST_F(Staging, WhereThereIsNoStagingFolderACopyIsWrittenBesideItsTarget) {
 TEST_F(Staging, AnActionWithoutOneWritesBesideTheTargetAgain) {
   copy_set(folder_.path("Store"));
   folder_.write("Set/a.dat", "newer a");
-  folder_.make_folder("Store/" + neighbour_);
+  folder_.write("Store/" + left_over_, "half");
   const FileSystem::Action action(*files_);
   files_->copy_file(folder_.path("Set\\a.dat"), folder_.path("Game\\a.dat"), Durability::kCached);
   EXPECT_EQ(folder_.read("Game/a.dat"), "newer a");
+  EXPECT_TRUE(folder_.has("Store/" + left_over_));
 }
 
 TEST_F(Staging, OfOtherPermissionsItServesNot) {
   ASSERT_EQ(::chmod((folder_.path() + "/Store").c_str(), 0700), 0);
   ASSERT_EQ(::chmod((folder_.path() + "/Game").c_str(), 0775), 0);
-  folder_.write("Store/" + neighbour_, "would be taken over");
+  folder_.write("Store/" + left_over_, "would be swept");
   copy_set(folder_.path("Store"));
-  expect_copied({{"Store/" + neighbour_, "would be taken over"}});
+  expect_copied({{"Store/" + left_over_, "would be swept"}});
 }
 
 }  // namespace

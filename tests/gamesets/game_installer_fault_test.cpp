@@ -64,7 +64,7 @@ class InstalledFolder {
 };
 
 bool is_neighbour(const std::string& name) {
-  return name.ends_with("~vorlund.bak");
+  return is_staging_name(name.substr(name.rfind('/') + 1));
 }
 
 /// Every state that a file of the folder may be in: as before, as after any step, or not there yet.

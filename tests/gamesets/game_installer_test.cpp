@@ -131,7 +131,7 @@ TEST_F(GameInstaller, SkipsClearedRowsAndRowsWithoutAFolder) {
   store("A/One/a.dat", "a");
   const GameSetSummary summary = install({{"A", ""}, {"A", "Missing"}, {"", "One"}, {"Nowhere", "One"}});
   EXPECT_EQ(game_files(), (Tree{{"Music/", ""}, {"Savedata/", ""}}));
-  EXPECT_EQ(summary.missing, 3U);
+  EXPECT_EQ(summary.missing, (std::vector<std::string>{"A\\Missing", "\\One", "Nowhere\\One"}));
   EXPECT_EQ(summary.folders, 0U);
 }
 
@@ -176,7 +176,7 @@ TEST_F(GameInstaller, PatchesTheExecutableAndDoesNotCopyThePatch) {
   EXPECT_EQ(folder.read("eaw.exe"), "0123456789ABCDEFxyIJ");
   EXPECT_FALSE(folder.has("fix.ldr"));
   EXPECT_EQ(summary.patches, 1U);
-  EXPECT_EQ(summary.sentence(), "1 folder, 0 files copied, 0 kept in the store, 1 patch into eaw.exe");
+  EXPECT_EQ(summary.text(), "1 folder, 1 patch into eaw.exe");
 }
 
 TEST_F(GameInstaller, ALaterPatchWinsAndAppliesToAnExecutableThatAnEarlierRowCopied) {
@@ -235,13 +235,19 @@ TEST_F(GameInstaller, WritesASummaryForThePlayer) {
   summary.copied = 214;
   summary.kept = 12;
   summary.patches = 2;
-  EXPECT_EQ(summary.sentence(), "3 folders, 214 files copied, 12 kept in the store, 2 patches into eaw.exe");
+  EXPECT_EQ(summary.text(), "3 folders, 214 files copied, 12 kept in the store, 2 patches into eaw.exe");
   summary.unchanged = 7;
   summary.patches_passed = 1;
-  summary.missing = 1;
-  EXPECT_EQ(summary.sentence(),
-            "3 folders, 214 files copied, 7 already in place, 12 kept in the store, 2 patches into eaw.exe, "
-            "1 patch passed over: there is no eaw.exe, 1 row passed over: no such folder");
+  summary.missing = {"Scenery\\Old"};
+  EXPECT_EQ(summary.text(),
+            "3 folders, 214 files copied, 7 files already in place, 12 kept in the store, "
+            "2 patches into eaw.exe, 1 patch passed over: there is no eaw.exe\n"
+            "1 row passed over, for want of a folder: Scenery\\Old");
+  summary = {};
+  EXPECT_EQ(summary.text(), "There was nothing to install");
+  summary.missing = {"A\\1", "B\\2", "C\\3", "D\\4"};
+  EXPECT_EQ(summary.text(),
+            "There was nothing to install\n4 rows passed over, for want of a folder: A\\1; B\\2; C\\3; ...");
 }
 
 TEST_F(GameInstaller, ReportsEveryFileAsItGoesAndNeverGoesBack) {
@@ -250,7 +256,24 @@ TEST_F(GameInstaller, ReportsEveryFileAsItGoesAndNeverGoesBack) {
   store("B/Two/c.dat", "c");
   install({{"A", "One"}, {"B", "Two"}});
   EXPECT_EQ(environment.status.files, (std::vector<std::string>{"A.dat", "b.dat", "c.dat"}));
-  EXPECT_EQ(environment.status.fractions, (std::vector<double>{0, 0.25, 0.5}));
+  EXPECT_EQ(environment.status.fractions, (std::vector<double>{0, 1.0 / 3, 2.0 / 3}));
+}
+
+TEST_F(GameInstaller, WeighsItsProgressByFilesAndNotByRows) {
+  std::vector<std::pair<std::string, std::string>> rows;
+  for (int row = 0; row < 12; ++row) {
+    const std::string group = "Group" + std::to_string(row);
+    for (int file = 0; file < (row == 5 ? 1500 : 2); ++file) {
+      store(group + "/Set/" + std::to_string(file) + ".dat", "");
+    }
+    rows.emplace_back(group, "Set");
+  }
+  install(rows);
+  const std::vector<double>& fractions = environment.status.fractions;
+  ASSERT_EQ(fractions.size(), 1522U);
+  for (std::size_t done = 0; done < fractions.size(); ++done) {
+    ASSERT_NEAR(fractions[done], static_cast<double>(done) / 1522, 0.03) << done;
+  }
 }
 
 }  // namespace

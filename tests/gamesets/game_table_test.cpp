@@ -110,31 +110,31 @@ TEST(GameTable, ComparesTheLastGroupWithCase) {
   EXPECT_EQ(rows_of(table), (Rows{{"tweaks", ""}}));
 }
 
-TEST(GameTable, AfterClearingTheNextShownRowIsCurrent) {
-  GameTable table = table_of({{"A", "1"}, {"B", "2"}, {"C", ""}, {"D", "4"}});
-  table.select(2);
-  table.clear_current("Z");
-  EXPECT_EQ(table.G2.row, 4);
-}
-
-TEST(GameTable, AfterClearingTheLastShownRowTheOneBeforeIsCurrent) {
-  GameTable table = table_of({{"A", "1"}, {"B", ""}, {"C", "3"}});
-  table.select(3);
-  table.clear_current("Z");
-  EXPECT_EQ(table.G2.row, 1);
-  table.clear_current("Z");
-  EXPECT_EQ(table.G2.row, 0);
-}
-
-TEST(GameTable, AfterRemovingARowTheOneThatFollowedIsCurrent) {
-  GameTable table = table_of({{"Z", "1"}, {"Z", "2"}, {"Z", "3"}});
+TEST(GameTable, AClearedRowStaysCurrentSoThatASecondClickClearsNothingElse) {
+  GameTable table = table_of({{"A", "1"}, {"B", "2"}, {"D", "4"}});
   table.select(2);
   table.clear_current("Z");
   EXPECT_EQ(table.G2.row, 2);
-  EXPECT_EQ(table.G2.cell(2, GameTable::kFolder), "3");
   table.clear_current("Z");
-  EXPECT_EQ(table.G2.row, 1);
-  EXPECT_EQ(table.G2.cell(1, GameTable::kFolder), "1");
+  EXPECT_EQ(rows_of(table), (Rows{{"A", "1"}, {"B", ""}, {"D", "4"}}));
+}
+
+TEST(GameTable, AfterRemovingARowNoneIsCurrentSoThatASecondClickRemovesNoOther) {
+  GameTable table = table_of({{"Z", "1"}, {"Z", "2"}, {"Z", "3"}});
+  table.select(2);
+  table.clear_current("Z");
+  EXPECT_EQ(table.G2.row, 0);
+  table.clear_current("Z");
+  EXPECT_EQ(rows_of(table), (Rows{{"Z", "1"}, {"Z", "3"}}));
+}
+
+TEST(GameTable, WithoutALastGroupEveryClearedRowStays) {
+  GameTable table = table_of({{"Careers", "Camp1"}, {"", "Loose"}});
+  table.select(1);
+  table.clear_current(std::nullopt);
+  table.select(2);
+  table.clear_current(std::nullopt);
+  EXPECT_EQ(rows_of(table), (Rows{{"Careers", ""}, {"", ""}}));
 }
 
 TEST(GameTable, MovesTheCurrentRowBehindAllOthersAndKeepsItCurrent) {

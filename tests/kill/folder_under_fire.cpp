@@ -18,7 +18,7 @@ std::string lower(std::string name) {
 }
 
 bool is_neighbour(const std::string& name) {
-  return name.substr(name.find_last_of('/') + 1) == neighbour_name("any");
+  return is_staging_name(name.substr(name.find_last_of('/') + 1));
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 // Lays out the game folder whose installation is cut off.
 #include "kill/game_under_fire.h"
+#include "support/left_over.h"
 
 #include <cstddef>
 
@@ -39,8 +40,8 @@ GameUnderFire::GameUnderFire() {
           made_bytes(6, 9000));
   stay(scenery + "planes.dat", made_bytes(8, 8000));
   pass("planes.dat", made_bytes(8, 8000));
-  go("~Vorlund/~vorlund.bak", made_bytes(19, 400));  // what an earlier crash has left
-  go("~vorlund.bak", made_bytes(20, 400));
+  go("~Vorlund/" + left_over_name(), made_bytes(19, 400));  // what an earlier crash has left
+  go(left_over_name(), made_bytes(20, 400));
   stand_too("sky.Pal", made_bytes(21, 768));
   replace("SKY.PAL", made_bytes(9, 768), scenery + "sky.pal", "sky.pal", made_bytes(10, 768));
   replace("same.ter", made_bytes(11, 4000), scenery + "same.ter", "same.ter", made_bytes(11, 4000));

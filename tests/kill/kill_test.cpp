@@ -72,6 +72,14 @@ class ActionUnderFire : public testing::TestWithParam<int> {
     return undisturbed(TracedProgram({HEADLESS_ACTION, action}, traces_.path() + "/trace")).during;
   }
 
+  /// How the action ends whose flush of that number has that result.
+  int exit_code(const std::string& action, int flush, const std::string& result) const {
+    const TemporaryFolder folder;
+    game_folder_.lay_out(folder);
+    const TracedProgram program({HEADLESS_ACTION, action}, traces_.path() + "/trace");
+    return program.run_failed(folder.path(), "fsync", flush, result).exit_code;
+  }
+
   /// Lets each call of this share fail, checks what is left, and then does the action again.
   void fail_each_call(const std::string& program_file, const std::string& action) const {
     const TracedProgram program({program_file, action}, traces_.path() + "/trace");
@@ -189,6 +197,17 @@ TEST_P(WatchedCleanUp, FlushesEverySaveAndRecordWithItsFolder) {
 }
 
 // Calls that fail one by one, as on a disk that goes bad.
+/// Each save and record is flushed, and then its folder.
+TEST_P(WatchedCleanUp, GoesOnWhereAFolderCannotBeFlushedButNotWhereAFileCannot) {
+  for (const char* result : {"error=EINVAL", "error=EOPNOTSUPP"}) {
+    for (const int folder_flush : {2, 4, 12})
+      EXPECT_EQ(exit_code("clean-up", folder_flush, result), 0) << result;
+  }
+  for (const char* result : {"error=EIO", "error=ENOSPC"}) {
+    for (const int flush : {1, 2, 3, 11}) EXPECT_EQ(exit_code("clean-up", flush, result), 1) << result;
+  }
+}
+
 TEST_P(InstallUnderFire, WithAFailingCallLeavesWholeFilesAndIsMadeGoodByTheNextRun) {
   fail_each_call(HEADLESS_ACTION, "install");
 }

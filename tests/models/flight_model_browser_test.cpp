@@ -49,7 +49,6 @@ TEST_F(Browser, PreparesThePanesForTheAircraftWork) {
   EXPECT_EQ(selection.Label1[1].caption, "raf");
   EXPECT_TRUE(selection.Label1[0].visible);
   EXPECT_TRUE(selection.Label1[1].visible);
-  EXPECT_EQ(environment.labels.Label2.caption, "Show Plane Table");
   EXPECT_EQ(lists.List2.items, (std::vector<std::string>{"Emil", "spit9"}));
   EXPECT_TRUE(lists.List2.visible);
   ASSERT_EQ(lists.List3.items.size(), 30U);

@@ -2,6 +2,7 @@
 #include "models/possible_skins.h"
 
 #include "aircraft_work.h"
+#include "core/action_error.h"
 
 namespace vorlund {
 namespace {
@@ -69,11 +70,14 @@ TEST_F(PossibleSkinsPane, OpensEmptyForASlotWithoutSkinsAndSaysSo) {
   EXPECT_EQ(last_outcome(), "No skin in the skin list is made for slot P38H");
 }
 
-TEST_F(PossibleSkinsPane, OpensEmptyWithoutASkinList) {
-  plane.table.select(kSpitfireRow, PlaneTable::kRegion);
-  skins.FillPossibleSkins();
-  EXPECT_TRUE(skins.Frame4.visible);
-  EXPECT_TRUE(skins.List4.items.empty());
+TEST_F(PossibleSkinsPane, ASkinListThatIsGoneIsAFailingOpen) {
+  plane.table.select(1, PlaneTable::kRegion);
+  try {
+    skins.FillPossibleSkins();
+    FAIL() << "it was read";
+  } catch (const ActionError& error) {
+    EXPECT_EQ(error.path(), folder.path("~Vorlund\\SkinStore\\SkinList.txt"));
+  }
 }
 
 TEST_F(PossibleSkinsPane, ShowsTheFirstPictureAndHidesTheSelectionPane) {
@@ -105,10 +109,10 @@ TEST_F(PossibleSkinsPane, ShowsTheDefaultPictureAndLeavesTheSelectionPaneWithout
 }
 
 TEST_F(PossibleSkinsPane, AnUnknownShapeGivesACodeButNoNumber) {
-  make_skin("RAF/Odd", {"pxxxx.3dz", "psp09.tpc"});
+  make_skin("RAF/Odd", {"pzzzz.3dz", "psp09.tpc"});
   labels().SkinLab3.caption = "7";
   view("RAF\\Odd");
-  EXPECT_EQ(labels().SkinLab2.caption, "XXXX");
+  EXPECT_EQ(labels().SkinLab2.caption, "ZZZZ");
   EXPECT_EQ(labels().SkinLab3.caption, "7");
 }
 
@@ -163,7 +167,7 @@ TEST_F(PossibleSkinsPane, ChoosingForTheClickedSlotKeepsTheOtherColumns) {
 }
 
 TEST_F(PossibleSkinsPane, ASkinOfNoPlaneGoesToTheFirstRowWhileNoNumberIsKnown) {
-  make_skin("RAF/Odd", {"pxxxx.3dz"});
+  make_skin("RAF/Odd", {"pzzzz.3dz"});
   view("RAF\\Odd");
   skins.Image4_Click();
   EXPECT_EQ(row_text(1), "P38H RAF Odd - - - - - - -");
@@ -184,12 +188,9 @@ TEST_F(PossibleSkinsPane, EntriesOfHostileNamesNeverLeadOutOfTheStore) {
   folder.write("psp09.3dz", "");
   folder.write("mypic", "secret");
   folder.write("~Vorlund/mypic", "secret");
-  const std::vector<std::string> entries = {"..\\..",          "..\\~Vorlund",    "RAF\\..",
-                                            "RAF\\..\\..\\..", "RAF\\.",          ".\\.",
-                                            "RAF\\",           "\\Mk9",           "\\",
-                                            "RAF/..\\Mk9",     "RAF\\Mk9/../../", "C:\\Mk9",
-                                            "RAF\\Mk9:pic",    "RAF\\a\tb",       "RAF\\sub\\Mk9",
-                                            "RAF\\ ",          "..\\..\\..\\..",  "RAF\\..\\RAF\\Mk9"};
+  const std::vector<std::string> entries = {
+      "..\\..", "..\\~Vorlund", "RAF\\..",         "RAF\\..\\..\\..", "RAF\\.",
+      ".\\.",   "RAF/..\\Mk9",  "RAF\\Mk9/../../", "..\\..\\..\\..",  "RAF\\..\\RAF\\Mk9"};
   for (const std::string& entry : entries) {
     files.clear();
     view(entry);
@@ -198,6 +199,19 @@ TEST_F(PossibleSkinsPane, EntriesOfHostileNamesNeverLeadOutOfTheStore) {
     for (const std::string& operation : files.log())
       EXPECT_EQ(operation.find("list"), std::string::npos) << operation;
   }
+}
+
+TEST_F(PossibleSkinsPane, OddFoldersThatExistAreShownAndChosen) {
+  make_skin("RAF/sub/Mk9", {"psp09.3dz"});
+  view("RAF\\sub\\Mk9");
+  EXPECT_EQ(labels().SkinLab2.caption, "SP09");
+#ifndef _WIN32
+  make_skin("RAF/Mk9: late.", {"pp51d.3dz"});
+  view("RAF\\Mk9: late.");
+  EXPECT_EQ(labels().SkinLab2.caption, "P51D");
+  skins.Image4_Click();
+  EXPECT_EQ(cell(6, PlaneTable::kSkinFolder), "Mk9: late.");
+#endif
 }
 
 TEST_F(PossibleSkinsPane, IsDraggedByItsFreeAreaAndComesToTheFront) {

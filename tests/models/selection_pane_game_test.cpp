@@ -92,7 +92,7 @@ TEST_F(GameSelection, ADescriptionOfThreeLinesShowsThreeLines) {
   describe("A red evening.\r\nCalm \xE9t\xE9.\r\n\r\n");
   show(1, 0);
   EXPECT_EQ(pane.Text1.text, "A red evening.\r\nCalm \xC3\xA9t\xC3\xA9.\r\n\r\n");
-  EXPECT_TRUE(pane.Text1.visible);
+  EXPECT_FALSE(pane.Text1.visible) << "\"Show/hide details\" shows it";
 }
 
 TEST_F(GameSelection, ALineWithoutAnEndIsEndedAndWithoutAFileTheDescriptionIsEmpty) {
@@ -134,12 +134,13 @@ TEST_F(GameSelection, ShowsGroupAndFolderOfTheSelection) {
 }
 
 TEST_F(GameSelection, ChoosingReplacesTheFolderOfTheGroupsRowAndAddsNone) {
+  game.table.select(1);
   show(1, 1);
   pane.Image1_Click();
   EXPECT_EQ(game.table.G2.row_count(), 3);
   EXPECT_EQ(game.table.G2.cell(2, GameTable::kFolder), "Dusk");
   EXPECT_FALSE(game.table.G2.rows[2].hidden);
-  EXPECT_EQ(game.table.G2.row, 2);
+  EXPECT_EQ(game.table.G2.row, 1) << "choosing leaves the current row alone";
   EXPECT_FALSE(pane.Frame3.visible);
   EXPECT_FALSE(environment.labels.GroupLabel.visible);
   show(1, 2);
@@ -176,7 +177,16 @@ TEST_F(GameSelection, OfTheLastGroupAlwaysAddsARow) {
   EXPECT_EQ(game.table.G2.cell(3, GameTable::kFolder), "Fire");
   EXPECT_EQ(game.table.G2.cell(4, GameTable::kFolder), "Fire");
   EXPECT_EQ(game.table.G2.cell(5, GameTable::kFolder), "Smoke");
-  EXPECT_EQ(game.table.G2.row, 5);
+  EXPECT_EQ(game.table.G2.row, 0);
+}
+
+TEST_F(GameSelection, WhileTheGroupLabelsAreRemovedNoGroupIsTheLastOne) {
+  EXPECT_EQ(pane.last_group(), "Tweaks");
+  show(2, 0);
+  pane.remove_group_labels();
+  EXPECT_EQ(pane.last_group(), std::nullopt);
+  pane.DoSel();
+  EXPECT_EQ(game.table.G2.row_count(), 3) << "no row is added";
 }
 
 TEST_F(GameSelection, ComparesGroupsByCharacterCodesSoLowerCaseSortsBehindUpperCase) {
@@ -220,11 +230,28 @@ TEST_F(GameSelection, DetailsAndPictureAreHiddenAndShown) {
   pane.Label27_Click(0);
   EXPECT_FALSE(pane.Image1.visible);
   pane.Label27_Click(1);
-  EXPECT_FALSE(pane.Text1.visible);
-  pane.SelLab_Click(1);
-  EXPECT_FALSE(pane.Text1.visible) << "details stay hidden until they are wanted again";
-  pane.Label27_Click(1);
   EXPECT_TRUE(pane.Text1.visible);
+  pane.SelLab_Click(1);
+  EXPECT_TRUE(pane.Text1.visible) << "a selection fills the details and leaves them shown";
+  pane.Label27_Click(1);
+  EXPECT_FALSE(pane.Text1.visible);
+}
+
+TEST_F(GameSelection, OpeningAGroupHidesDescriptionAndPictureAndLeavesTheLabels) {
+  describe("calm");
+  show(1, 0);
+  pane.Label27_Click(1);
+  EXPECT_TRUE(pane.shows_selection());
+  pane.Label1_Click(2);
+  EXPECT_FALSE(pane.Text1.visible);
+  EXPECT_EQ(pane.Text1.text, "");
+  EXPECT_FALSE(pane.Image1.visible);
+  EXPECT_TRUE(pane.Frame3.visible);
+  EXPECT_FALSE(pane.shows_selection());
+  for (const Label& label : pane.Label27) EXPECT_TRUE(label.visible);
+  EXPECT_TRUE(environment.labels.FolderLabel.visible);
+  EXPECT_EQ(environment.labels.FolderLabel.caption, pane.current_selection);
+  EXPECT_EQ(pane.current_selection, "dawn") << "it stays until the next click on a selection";
 }
 
 TEST_F(GameSelection, AClickOnThePaneOrItsPictureHidesIt) {

@@ -35,7 +35,7 @@ TEST_F(SkinSelection, OpeningAGroupListsItsSkinsAndHidesTheTables) {
 }
 
 TEST_F(SkinSelection, ShowsTheCodeNumberAndWhatTheSlotHoldsNow) {
-  make_skin("RAF/Mk9", {"pxxxx.3dz", "psp09.3dz"});
+  make_skin("RAF/Mk9", {"pzzzz.3dz", "psp09.3dz"});
   plane.table.G1.set_cell(kSpitfireRow, PlaneTable::kRegion, "Old group");
   plane.table.G1.set_cell(kSpitfireRow, PlaneTable::kSkinFolder, "Old skin");
   open("RAF", "Mk9");
@@ -60,13 +60,13 @@ TEST_F(SkinSelection, HidesTheSlotLabelsWhereTheSlotHoldsNoSkin) {
 
 TEST_F(SkinSelection, LooksAtTexturesWhereThereIsNoShape) {
   make_skin("RAF/Texture", {"phurr.tpc"});
-  make_skin("RAF/Odd", {"pxxxx.3dz", "phurr.tpc"});
+  make_skin("RAF/Odd", {"pzzzz.3dz", "phurr.tpc"});
   make_skin("RAF/None", {});
   open("RAF", "Texture");
   EXPECT_EQ(labels().SkinLab2.caption, "HURR");
   EXPECT_EQ(labels().SkinLab3.caption, "9");
   open("RAF", "Odd");
-  EXPECT_EQ(labels().SkinLab2.caption, "XXXX");
+  EXPECT_EQ(labels().SkinLab2.caption, "ZZZZ");
   EXPECT_EQ(labels().SkinLab3.caption, "");
   open("RAF", "None");
   EXPECT_EQ(labels().SkinLab2.caption, "");
@@ -86,7 +86,7 @@ TEST_F(SkinSelection, ChoosingPutsTheSkinIntoTheRowOfItsPlane) {
 }
 
 TEST_F(SkinSelection, AFolderOfNoPlaneCannotBeChosen) {
-  make_skin("RAF/Odd", {"pxxxx.3dz"});
+  make_skin("RAF/Odd", {"pzzzz.3dz"});
   open("RAF", "Odd");
   selection.SelLab_DblClick();
   for (int row = 1; row <= 30; ++row) EXPECT_FALSE(plane.table.is_used(row)) << row;

@@ -23,7 +23,7 @@ TEST(SkinCode, ComesFromTheFirstMatchingFileByName) {
       {{{"psp09.tpc", EntryKind::kFile, false}}, ""},
       {{{"psp09.3dz", EntryKind::kFile, false}}, "SP09"},
       {{{"PSP09.3DZ", EntryKind::kFile, false}}, "SP09"},
-      {{{"pxxxx.3dz", EntryKind::kFile, false}, {"psp09.3dz", EntryKind::kFile, false}}, "SP09"},
+      {{{"pzzzz.3dz", EntryKind::kFile, false}, {"psp09.3dz", EntryKind::kFile, false}}, "SP09"},
       {{{"Pzzzz.3dz", EntryKind::kFile, false}, {"pabcd.3dz", EntryKind::kFile, false}}, "ABCD"},
       {{{"pabcd.3dz", EntryKind::kFolder, false}, {"psp09.3dz", EntryKind::kFile, false}}, "SP09"},
       {{{"pabcd.3dz", EntryKind::kFile, true}, {"psp09.3dz", EntryKind::kFile, false}}, "SP09"},
@@ -44,7 +44,7 @@ TEST(SkinCode, EveryPlaneCodeHasItsNumberInAnyCase) {
     EXPECT_EQ(plane_code_index(code), index) << code;
     EXPECT_EQ(plane_code_index(to_upper(code)), index) << code;
   }
-  for (const char* code : {"", "XXXX", "SP0", "SP099", " SP09"})
+  for (const char* code : {"", "ZZZZ", "SP0", "SP099", " SP09"})
     EXPECT_EQ(plane_code_index(code), -1) << code;
 }
 

@@ -35,8 +35,8 @@ TEST_F(SkinList, GivesFoldersOfTheSameNameInTwoGroupsTwoLines) {
 }
 
 TEST_F(SkinList, LooksAtTheFirstShapeFileAndThenAtTheFirstTextureFileAlone) {
-  make_skin("A/first of two shapes", {"pxxxx.3dz", "psp09.3dz"});
-  make_skin("A/texture behind an unknown shape", {"pxxxx.3dz", "psp09.tpc"});
+  make_skin("A/first of two shapes", {"pzzzz.3dz", "psp09.3dz"});
+  make_skin("A/texture behind an unknown shape", {"pzzzz.3dz", "psp09.tpc"});
   make_skin("A/unknown before known shape", {"paaaa.3dz", "psp09.3dz"});
   make_skin("A/unknown before known texture", {"paaaa.tpc", "psp09.tpc"});
   EXPECT_EQ(made_list(),
@@ -80,7 +80,7 @@ TEST_F(SkinList, FormsNamesFromTheFirstSkinStoreInTheWholePath) {
 }
 
 TEST_F(SkinList, ReadsEachFolderOnceAndWritesOnce) {
-  make_skin("A/1", {"pxxxx.3dz", "psp09.tpc"});
+  make_skin("A/1", {"pzzzz.3dz", "psp09.tpc"});
   make_skin("A/2", {});
   make_skin("B/1", {"psp09.3dz"});
   MakeSkinList(environment);

@@ -57,6 +57,24 @@ TEST_F(SkinMatching, FindsTheLongestBeginningAndCountsOneMoreThanMatched) {
   EXPECT_EQ(last_outcome(), "1 skin has \"Spit\" in the name");
 }
 
+TEST_F(SkinMatching, MakesTheSelectedSlotRowCurrentOnceOneWasSet) {
+  make_skin("RAF/Spit Mk IX", {"psp09.3dz"});
+  plane.table.select(7, PlaneTable::kSlot);
+  match("Spit9");
+  EXPECT_EQ(plane.table.G1.row, 7) << "before a slot row was ever selected the current row stays";
+  EXPECT_EQ(plane.table.G1.column, PlaneTable::kPlaneName);
+  plane.select_option(PlaneOption::kEditMode);
+  plane.G1_MouseDown(20, PlaneTable::kFlyable);
+  plane.select_option(PlaneOption::kMatchSkin);
+  plane.G1_MouseDown(3, PlaneTable::kFlyable);
+  click("Spit9");
+  EXPECT_EQ(plane.table.G1.row, 20) << "the row last clicked in edit mode, not the one that is current";
+  skins.Image4_Click();
+  plane.G1_MouseDown(3, PlaneTable::kFlyable);
+  click("Spit9");
+  EXPECT_EQ(plane.table.G1.row, kSpitfireRow) << "the row that the skin went into";
+}
+
 struct MatchCase {
   std::string flight_model;
   std::vector<std::string> found;

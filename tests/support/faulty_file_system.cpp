@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "core/action_error.h"
+#include "support/left_over.h"
 
 namespace vorlund::test {
 
@@ -61,7 +62,7 @@ void FaultyFileSystem::leave_half(const Operation& operation) {
   const std::size_t name_begin = operation.target.find_last_of("\\/") + 1;
   const bool stages = copies && !staging_.empty();
   std::string neighbour = stages ? staging_ + "\\" : std::string(operation.target.substr(0, name_begin));
-  neighbour += neighbour_name(operation.target.substr(name_begin));
+  neighbour += left_over_name();
   inner().replace_file(neighbour, std::string_view(bytes).substr(0, bytes.size() / 2), Durability::kCached);
 }
 

@@ -41,15 +41,9 @@ std::vector<FolderEntry> ForwardingFileSystem::entries(std::string_view folder) 
   return inner_.entries(folder);
 }
 
-std::string ForwardingFileSystem::read_file(std::string_view path, std::uint64_t limit) {
-  const std::string verb = limit == kNoLimit ? "read" : "read the first " + std::to_string(limit) + " of";
-  before({Effect::kReading, words(verb, path), {}, {}, {}});
-  return inner_.read_file(path, limit);
-}
-
-std::uint64_t ForwardingFileSystem::file_size(std::string_view path) {
-  before({Effect::kReading, words("size", path), {}, {}, {}});
-  return inner_.file_size(path);
+std::unique_ptr<FileReader> ForwardingFileSystem::open_file(std::string_view path) {
+  before({Effect::kReading, words("read", path), {}, {}, {}});
+  return inner_.open_file(path);
 }
 
 void ForwardingFileSystem::replace_file(std::string_view path, std::string_view bytes,

@@ -20,8 +20,7 @@ class ForwardingFileSystem : public FileSystem {
   bool FolderExists(std::string_view path) override;
   bool lies_inside(std::string_view folder, std::string_view root) override;
   std::vector<FolderEntry> entries(std::string_view folder) override;
-  std::string read_file(std::string_view path, std::uint64_t limit = kNoLimit) override;
-  std::uint64_t file_size(std::string_view path) override;
+  std::unique_ptr<FileReader> open_file(std::string_view path) override;
   void replace_file(std::string_view path, std::string_view bytes, Durability durability) override;
   CopyOutcome copy_file(std::string_view source, std::string_view target, Durability durability) override;
   void remove_file(std::string_view path) override;

@@ -1,6 +1,8 @@
 // The names: ways out of a folder, devices, wildcards, and bytes that no name should hold.
 #include "support/hostile_names.h"
 
+#include "core/plain_name.h"
+
 namespace vorlund::test {
 
 using namespace std::string_literals;
@@ -117,6 +119,19 @@ std::vector<std::string> hostile_names() {
     names.emplace_back(device);
   }
   return names;
+}
+
+bool can_be_folder(const std::string& name) {
+#ifdef _WIN32
+  return is_portable_name(name);
+#else
+  return !name.empty() && name != "." && name != ".." && name.size() <= 255 &&
+         name.find_first_of("\\/\0"s) == std::string::npos;
+#endif
+}
+
+bool is_separators(const std::string& name) {
+  return name.find_first_not_of("\\/") == std::string::npos;
 }
 
 }  // namespace vorlund::test

@@ -11,7 +11,7 @@ namespace vorlund::test {
 /// Logs every operation, also one that then fails, and hands it on.
 ///
 /// The texts are: "find the current folder", "file exists P", "folder exists P", "list P", "read P",
-/// "read the first 2 of P", "size P", "replace P", "copy P -> Q", "remove P", "start P in Q", "begin action"
+/// "replace P", "copy P -> Q", "remove P", "start P in Q", "begin action"
 /// and "end action"; "replace" and "copy" end in " (flushed)" where the file is flushed.
 class RecordingFileSystem : public ForwardingFileSystem {
  public:

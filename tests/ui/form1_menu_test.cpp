@@ -55,6 +55,7 @@ TEST_F(Menu, AStoreWithoutGroupsShowsNoGroupLabel) {
 
 TEST_F(Menu, SaysWhatToDoNext) {
   folder.make_folder("~Vorlund/SkinStore/RAF");
+  folder.write("~Vorlund/CurrentPlaneSet.txt", "Standard\r\nSlot\r\n");
   start();
   EXPECT_EQ(form->status_line().caption, "Confirm the game folder, then choose from the menu on the left");
   form->Label17_Click();
@@ -72,7 +73,10 @@ TEST_F(Menu, SaysWhatToDoNext) {
 
 TEST_F(Menu, SaysWhereTheStoreHasNothingToChooseFrom) {
   start().Label9_MouseUp(0, left());
-  EXPECT_EQ(form->status_line().caption, "There is nothing to choose from in \"~Vorlund\\SkinStore\"");
+  EXPECT_EQ(form->status_line().caption,
+            "There is nothing to choose from in \"~Vorlund\\SkinStore\"\nNo flight-model group is set: the "
+            "flight models are the folders of \"~Vorlund\\FlightModels\" itself");
+  EXPECT_EQ(form->lists.List2.items, std::vector<std::string>{"Standard"});
 }
 
 TEST_F(Menu, TheTitleVanishesAtTheFirstUse) {

@@ -108,7 +108,8 @@ TEST(StartElsewhere, OutsideAGameFolderGivesEmptyTablesAndNoPictures) {
   form.Form_Load();
   EXPECT_EQ(form.game.table.G2.row_count(), 1);
   EXPECT_EQ(form.plane.table.flight_model_group(), "");
-  for (int row = 1; row < form.plane.table.G1.row_count(); ++row) {
+  ASSERT_EQ(form.plane.table.G1.row_count(), 31);
+  for (int row = 1; row <= 30; ++row) {
     for (int column = PlaneTable::kRegion; column < form.plane.table.G1.columns; ++column) {
       EXPECT_EQ(form.plane.table.G1.cell(row, column), "");
     }

@@ -21,7 +21,7 @@ void choose(Form1& form, std::string_view group, std::string_view name) {
   for (std::size_t index = 0; index < form.selection.SelLab.size(); ++index) {
     if (form.selection.SelLab[index].caption == name) form.selection.SelLab_Click(static_cast<int>(index));
   }
-  form.selection.Image1_Click();
+  form.Image1_Click();
 }
 
 TEST_F(Work, AGameSetIsComposedInstalledAndShownAtTheNextStart) {
@@ -34,8 +34,7 @@ TEST_F(Work, AGameSetIsComposedInstalledAndShownAtTheNextStart) {
   EXPECT_EQ(folder.read("sky.pal"), "dusk");
   EXPECT_EQ(folder.read("smoke.dat"), "smoke");
   EXPECT_EQ(folder.read("fire.dat"), "fire");
-  EXPECT_EQ(form->status_line().caption,
-            "3 folders, 3 files copied, 1 kept in the store, 0 patches into eaw.exe");
+  EXPECT_EQ(form->status_line().caption, "3 folders, 3 files copied, 1 kept in the store");
   EXPECT_EQ(folder.read("~Vorlund/CurrentGameSet.txt"),
             "Folder group\tFolder name\r\nCareers\t\r\nSky\tDusk\r\nTweaks\tSmoke\r\nTweaks\tFire\r\n");
   start();
@@ -84,6 +83,121 @@ TEST_F(Work, ClearingARowOfTheLastGroupRemovesIt) {
   EXPECT_EQ(form->game.table.G2.row_count(), 3);
 }
 
+TEST_F(Work, ACareersRowThatIsClearedWithoutGroupLabelsStays) {
+  folder.write("~Vorlund/GameSetFiles/Campaign", "Folder group\tFolder name\r\nCareers\tCamp1\r\n");
+  start().Label9_MouseUp(1, left());
+  form->Label9_MouseUp(3, left());
+  form->load_pane.File3_Click(0);
+  form->load_pane.Check1.checked = true;
+  form->Label19_Click();
+  form->game.G2_Click(1);
+  form->Label28_Click();
+  EXPECT_EQ(form->game.table.G2.row_count(), 2);
+  EXPECT_EQ(form->game.table.G2.cell(1, GameTable::kGroup), "Careers");
+}
+
+TEST_F(Work, AClearedSlotTakesTheNextFlightModel) {
+  folder.write("~Vorlund/FlightModels/Standard/Spit9/spit.oaw", "Spitfire\r\n");
+  folder.write(
+      "~Vorlund/CurrentPlaneSet.txt",
+      "Standard\r\nSlot\r\nP38H\tUSAAF\tSilver\t0\r\nP38J\tUSAAF\tGreen\t1\r\nP47C\tUSAAF\tBlue\t2\r\n");
+  start().Label9_MouseUp(0, left());
+  form->browser.Option1_Click(static_cast<int>(PlaneOption::kFindFlightModel));
+  form->plane.G1_MouseDown(2, PlaneTable::kSlot);
+  form->Label3_Click();
+  form->Label3_Click();
+  const Grid& table = form->plane.table.G1;
+  EXPECT_TRUE(table.rows[2].hidden);
+  EXPECT_EQ(table.cell(3, PlaneTable::kSkinFolder), "Blue") << "a double click clears one slot";
+  EXPECT_EQ(form->status_line().caption,
+            "Slot P38J was cleared and is still the selected one. Its files stay in the game folder until "
+            "\"Clean Up\".");
+  form->lists.List2.selected = 0;
+  form->browser.List2_Click();
+  EXPECT_EQ(table.cell(2, PlaneTable::kScriptFolder), "Spit9");
+  EXPECT_FALSE(table.rows[2].hidden);
+  EXPECT_EQ(table.cell(3, PlaneTable::kScriptFolder), "");
+  form->Label3_Click();
+  form->lists.List3.selected = 7;
+  form->browser.List3_Click();
+  EXPECT_EQ(table.cell(2, PlaneTable::kRecordNumber), "7");
+  EXPECT_FALSE(table.rows[2].hidden);
+}
+
+TEST_F(Work, SaysWhatIsNotInstalledYet) {
+  folder.make_folder("~Vorlund/SkinStore/RAF");
+  folder.write("~Vorlund/CurrentGameSet.txt",
+               "Folder group\tFolder name\r\nCareers\tCamp1\r\nSky\tDawn\r\nTweaks\tSmoke\r\n");
+  folder.write("~Vorlund/CurrentPlaneSet.txt", "Standard\r\nSlot\r\nP38H\tUSAAF\tSilver\t0\r\n");
+  start().WhatsLoaded_Click();
+  EXPECT_EQ(form->status_line().caption, "What the tables show is installed.");
+  form->Label9_MouseUp(0, left());
+  form->Label9_MouseUp(1, left());
+  choose(*form, "Sky", "Dusk");
+  choose(*form, "Tweaks", "Fire");
+  form->game.G2_Click(1);
+  form->Label28_Click();
+  form->WhatsLoaded_Click();
+  EXPECT_EQ(form->status_line().caption,
+            "Not installed yet: Sky, Tweaks. \"Process!\" installs them.\n"
+            "Installed, but cleared since: Careers. \"Clean Up\" deletes their files.");
+  form->game.GameLoad_Click();
+  form->plane.G1_MouseDown(1, PlaneTable::kSlot);
+  form->Label3_Click();
+  form->plane.table.G1.set_cell(5, PlaneTable::kFuel, "75");
+  form->plane.table.set_flight_model_group("Late");
+  form->WhatsLoaded_Click();
+  EXPECT_EQ(form->status_line().caption,
+            "Not installed yet: slot P51B, flight models of \"Late\". \"Process!\" installs them.\n"
+            "Installed, but cleared since: slot P38H. \"Clean Up\" deletes their files.");
+  form->game.G2_Click(2);
+  form->Label29_Click();
+  form->WhatsLoaded_Click();
+  EXPECT_EQ(form->status_line().caption.find("Not installed yet: the order of the game table, slot P51B"),
+            0U);
+}
+
+TEST_F(Work, SaysWhereCareerSavesWouldGoWhenTheirHomeChanges) {
+  folder.make_folder("~Vorlund/GameStore/Careers/Camp2");
+  folder.write("Savedata/c1.sve", "one");
+  folder.write("~Vorlund/GameSetFiles/Other", "Folder group\tFolder name\r\nCareers\tCamp1\r\n");
+  start().Label9_MouseUp(1, left());
+  choose(*form, "Sky", "Dusk");
+  EXPECT_EQ(form->status_line().caption.find("career"), std::string::npos);
+  choose(*form, "Careers", "Camp2");
+  EXPECT_TRUE(form->status_line().caption.ends_with(
+      "\nThe career save in \"Savedata\" would now go home to Careers\\Camp2 at \"Clean Up\""))
+      << form->status_line().caption;
+  form->load_pane.Label12_Click();
+  form->load_pane.File3_Click(0);
+  form->load_pane.Check1.checked = true;
+  form->Label19_Click();
+  EXPECT_TRUE(form->status_line().caption.ends_with("go home to Careers\\Camp1 at \"Clean Up\""))
+      << form->status_line().caption;
+}
+
+TEST_F(Work, MarksFollowEveryChangeOfTheTables) {
+  start().Label9_MouseUp(1, left());
+  form->selection.Label1_Click(1);
+  const auto marked = [this](std::size_t index) {
+    return form->selection.SelLab[index].text_colour != kWhite;
+  };
+  ASSERT_EQ(form->selection.SelLab[0].caption, "Dawn");
+  EXPECT_TRUE(marked(0));
+  form->game.G2_Click(2);
+  form->Label28_Click();
+  EXPECT_FALSE(marked(0));
+  folder.write("~Vorlund/GameSetFiles/Other", "Folder group\tFolder name\r\nSky\tDusk\r\n");
+  form->load_pane.Label12_Click();
+  form->load_pane.File3_Click(0);
+  form->load_pane.Check1.checked = true;
+  form->Label19_Click();
+  EXPECT_FALSE(marked(0));
+  EXPECT_TRUE(marked(1));
+  form->CleanUp();
+  EXPECT_FALSE(marked(1));
+}
+
 TEST_F(Work, CleanUpBringsCareersHomeDeletesAndEmptiesBothTablesAndRecords) {
   folder.write("~Vorlund/CurrentGameSet.txt", "Folder group\tFolder name\r\nCareers\tCamp1\r\nSky\tDawn\r\n");
   folder.write(
@@ -108,7 +222,8 @@ TEST_F(Work, CleanUpBringsCareersHomeDeletesAndEmptiesBothTablesAndRecords) {
   EXPECT_EQ(form->selection.Label1.size(), 1U);
   EXPECT_FALSE(form->selection.Label1[0].visible);
   EXPECT_FALSE(form->labels().Label2.visible);
-  EXPECT_EQ(form->status_line().caption, "1 career save brought home, 1 loose file deleted");
+  EXPECT_EQ(form->status_line().caption,
+            "1 career save brought home to Careers\\Camp1; 1 loose file deleted");
   start();
   EXPECT_TRUE(form->game.table.G2.rows[2].hidden);
 }
