@@ -13,7 +13,6 @@
 #include <stdexcept>
 #include <string>
 
-#include "core/environment.h"
 #include "gamesets/game_installer.h"
 
 extern char** environ;
@@ -123,16 +122,12 @@ void GameInstall::prepare(const fs::path& target, Targets targets) const {
 
 double GameInstall::run_program() const {
   const std::unique_ptr<FileSystem> files = make_platform_file_system();
-  GameDirectory game(*files);
-  game.Label16.caption = game_.string();
+  const GameFolder game{*files, game_.string()};
   Status status;
-  FrameOrder frames;
-  SharedLabels labels;
-  Environment environment{*files, game, status, frames, labels};
   GameTable table;
-  table.G2.add_row({"Group", "Set"});
+  table.add_row({"Group", "Set"});
   const Stopwatch watch;
-  const GameSetSummary summary = install_game_set(environment, table);
+  const GameSetSummary summary = install_game_set(game, status, table);
   const double seconds = watch.seconds();
   if (summary.copied + summary.unchanged != files_) throw std::runtime_error("not every file was installed");
   return seconds;

@@ -9,11 +9,9 @@
 #include <string>
 #include <vector>
 
-#include "core/environment.h"
+#include "aircraft/skin_list.h"
 #include "measure.h"
-#include "menus/menu_editor.h"
-#include "models/flight_model_browser.h"
-#include "models/skin_list.h"
+#include "panes/form1.h"
 #include "skin_store.h"
 
 namespace {
@@ -26,21 +24,20 @@ constexpr int kRounds = 5;
 
 std::string growth_file;
 
-/// The window object's surroundings over the real disk.
+/// The window object over the real disk.
 struct Surroundings {
   std::unique_ptr<FileSystem> files = make_platform_file_system();
-  GameDirectory game{*files};
   Status status;
-  FrameOrder frames;
-  SharedLabels labels;
-  Environment environment{*files, game, status, frames, labels};
+  Form1 form{*files, status, Version{}};
 
-  explicit Surroundings(const SkinStore& store) { game.Label16.caption = store.game_directory(); }
+  explicit Surroundings(const SkinStore& store) {
+    form.desk.directory.Label16.caption = store.game_directory();
+  }
 };
 
 void make_list(Surroundings& surroundings) {
   const FileSystem::Action action(*surroundings.files);
-  MakeSkinList(surroundings.environment);
+  MakeSkinList(surroundings.form.desk.game());
 }
 
 void run_find(const SkinStore& store) {
@@ -97,19 +94,12 @@ void match_flight_model(benchmark::State& state) {
   fs::create_directories(fs::path(store.game_directory()) / "~Vorlund" / "FlightModels" / "Late" /
                          "_=_=_=_=_");
   Surroundings surroundings(store);
-  MenuEditor menu_editor(surroundings.environment);
-  GamePane game(surroundings.environment);
-  PlanePane plane(surroundings.environment, menu_editor);
-  FlightModelLists lists;
-  SelectionPane selection(surroundings.environment, game, plane, lists);
-  PossibleSkins skins(surroundings.environment, plane, selection.Frame3, selection.Text1);
-  FlightModelBrowser browser(surroundings.environment, plane, selection, skins, lists);
-  plane.table.set_flight_model_group("Late");
-  browser.DoFM();
-  browser.Option1_Click(static_cast<int>(PlaneOption::kMatchSkin));
-  lists.List2.selected = 0;
-  for ([[maybe_unused]] auto round : state) browser.List2_Click();
-  state.counters["entries"] = static_cast<double>(skins.List4.items.size());
+  Form1& form = surroundings.form;
+  form.plane.set_flight_model_group("Late");
+  form.browser.DoFM();
+  form.Option1_Click(static_cast<int>(PlaneOption::kMatchSkin));
+  for ([[maybe_unused]] auto round : state) form.List2_Click(0);
+  state.counters["entries"] = static_cast<double>(form.possible_skins.List4.items.size());
 }
 BENCHMARK(match_flight_model)->Arg(10000)->Iterations(kRounds)->Unit(benchmark::kMillisecond);
 

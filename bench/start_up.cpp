@@ -9,8 +9,8 @@
 
 #include "measure.h"
 #include "skin_store.h"
-#include "ui/window/application.h"
-#include "ui/window/main_window.h"
+#include "window/application.h"
+#include "window/main_window.h"
 
 namespace {
 
@@ -128,16 +128,16 @@ int measure_actions(int argc, char** argv) {
     Form1& form = window.form();
     const MouseEvent click;
     window.perform([&] { form.Label9_MouseUp(1, click); });
-    state_time("opening a group of 1,000 folders", window, [&] { form.selection.Label1_Click(0); });
-    window.perform([&] { form.selection.Frame3_Click(); });
+    state_time("opening a group of 1,000 folders", window, [&] { form.Label1_Click(0); });
+    window.perform([&] { form.Frame3_Click(); });
     window.perform([&] { form.Label9_MouseUp(0, click); });
-    window.perform([&] { form.selection.Label1_Click(0); });
-    state_time("showing a picture of 8,000 x 8,000, jpg", window, [&] { form.selection.SelLab_Click(0); });
-    state_time("showing a picture of 8,000 x 8,000, bmp", window, [&] { form.selection.SelLab_Click(1); });
-    state_time("showing a skin", window, [&] { form.selection.SelLab_Click(2); });
+    window.perform([&] { form.Label1_Click(0); });
+    state_time("showing a picture of 8,000 x 8,000, jpg", window, [&] { form.SelLab_Click(0); });
+    state_time("showing a picture of 8,000 x 8,000, bmp", window, [&] { form.SelLab_Click(1); });
+    state_time("showing a skin", window, [&] { form.SelLab_Click(2); });
     state_time("choosing a skin", window, [&] { form.selection.DoSel(); });
-    window.perform([&] { form.selection.Label2_Click(); });
-    state_time("g1update", window, [&] { form.plane.table.g1update(); });
+    window.perform([&] { form.Label2_Click(); });
+    state_time("g1update", window, [&] { form.plane.G1.g1update(); });
     form.ended = true;
   });
 }

@@ -1,6 +1,5 @@
 # Warnings and sanitizers, carried by one interface target that every target of ours links.
 add_library(vorlund_compiler INTERFACE)
-target_include_directories(vorlund_compiler INTERFACE ${PROJECT_SOURCE_DIR}/src)
 
 if(MSVC)
   target_compile_options(vorlund_compiler INTERFACE /W4 /utf-8 $<$<BOOL:${VORLUND_WERROR}>:/WX>)

@@ -1,5 +1,6 @@
 // Fuzzes the readers of ".lo1" and ".lo2" files. The first byte of the input chooses the record number.
 #include "aircraft/loadout_data.h"
+#include "disk/store.h"
 #include "surroundings.h"
 
 using namespace vorlund;
@@ -12,11 +13,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   surroundings.write("\\Model\\bombs.lo2", text);
   PlaneTable table;
   table.fill_slots();
-  table.G1.set_cell(1, PlaneTable::kRecordNumber, std::to_string(data[0] % 34 - 1));
+  table.set_cell(1, PlaneTable::kRecordNumber, std::to_string(data[0] % 34 - 1));
   fuzz::run_action([&] {
-    FileList selected;
-    selected.path = surroundings.game.path("\\Model");
-    LoadOutWrite(surroundings.environment, table, 1, selected);
+    PatchedFile loadouts(surroundings.files, surroundings.game.path(kLoadoutData));
+    loadouts.patch(
+        [&] { LoadOutWrite(surroundings.game, table, 1, surroundings.game.path("\\Model"), loadouts); });
   });
   return 0;
 }

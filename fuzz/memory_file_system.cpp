@@ -4,8 +4,8 @@
 #include <algorithm>
 #include <cstddef>
 
-#include "core/action_error.h"
-#include "core/text.h"
+#include "base/action_error.h"
+#include "base/text.h"
 #include "support/text_reader.h"
 
 namespace vorlund::fuzz {

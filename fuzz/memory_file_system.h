@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "core/file_system.h"
+#include "disk/file_system.h"
 
 namespace vorlund::fuzz {
 

@@ -1,7 +1,7 @@
 // Fuzzes the reader of "pnames.str": always thirty names, and what is written of them reads back.
 #include "aircraft/pilot_names.h"
-#include "core/code_page.h"
-#include "core/text.h"
+#include "base/code_page.h"
+#include "base/text.h"
 #include "surroundings.h"
 
 using namespace vorlund;

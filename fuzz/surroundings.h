@@ -1,26 +1,26 @@
-// What the fuzz targets share: a pane's surroundings in memory, and errors that are allowed to end an action.
+// What the fuzz targets share: the window object in memory, and errors that are allowed to end an action.
 #pragma once
 
 #include <cstdint>
 #include <string>
 #include <string_view>
 
-#include "core/action_error.h"
-#include "core/environment.h"
+#include "base/action_error.h"
 #include "memory_file_system.h"
+#include "panes/form1.h"
 
 namespace vorlund::fuzz {
 
-/// An environment whose game directory is "C:\Game", empty at first.
+/// The window object in the game directory "C:\Game", which is empty at first; start-up has not been run.
 struct Surroundings {
   MemoryFileSystem files;
-  GameDirectory game{files};
   Status status;
-  FrameOrder frames;
-  SharedLabels labels;
-  Environment environment{files, game, status, frames, labels};
+  Form1 form{files, status, Version{}};
+  GameFolder game;
 
-  Surroundings() { game.start(); }
+  Surroundings() : game{files, files.current_folder()} {
+    form.desk.directory.Label16.caption = game.directory;
+  }
 
   /// Writes a file of the game directory; the literal begins with a backslash.
   void write(std::string_view literal, std::string_view bytes) {

@@ -1,5 +1,5 @@
 // The program: the window, started inside the game's folder.
-#include "ui/window/application.h"
+#include "window/application.h"
 
 int main(int argc, char** argv) {
   return vorlund::run_application(argc, argv);

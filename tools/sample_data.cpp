@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <stdexcept>
 
-#include "core/text.h"
+#include "base/text.h"
 
 namespace vorlund::sample {
 namespace {

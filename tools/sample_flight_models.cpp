@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <array>
 
-#include "core/text.h"
+#include "base/text.h"
 #include "sample_data.h"
 #include "sample_folder.h"
 #include "sample_random.h"

@@ -4,7 +4,7 @@
 #include <fstream>
 #include <stdexcept>
 
-#include "core/code_page.h"
+#include "base/code_page.h"
 #include "sample_random.h"
 
 namespace vorlund::sample {

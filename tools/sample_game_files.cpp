@@ -2,7 +2,7 @@
 #include <string>
 #include <vector>
 
-#include "core/code_page.h"
+#include "base/code_page.h"
 #include "sample_data.h"
 #include "sample_flight_models.h"
 #include "sample_folder.h"

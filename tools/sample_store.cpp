@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "core/text.h"
+#include "base/text.h"
 #include "sample_data.h"
 #include "sample_flight_models.h"
 #include "sample_folder.h"

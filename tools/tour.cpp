@@ -110,7 +110,7 @@ void Tour::game_work() {
   }
   // A row is added for the last group alone; of the others only those serve that stand in the table.
   QStringList served;
-  const Grid& table = window_.form().game.table.G2;
+  const CellTable& table = window_.form().game.G2;
   for (int row = 1; row < table.row_count(); ++row) {
     const QString group = QString::fromStdString(table.cell(row, GameTable::kGroup));
     if (groups.contains(group) && !served.contains(group)) served.append(group);

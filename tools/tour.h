@@ -7,7 +7,7 @@
 #include <QStringList>
 
 #include "hand.h"
-#include "ui/window/main_window.h"
+#include "window/main_window.h"
 
 namespace vorlund {
 

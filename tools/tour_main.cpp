@@ -5,7 +5,7 @@
 #include <exception>
 
 #include "tour.h"
-#include "ui/window/application.h"
+#include "window/application.h"
 
 int main(int argc, char** argv) {
   if (argc != 2) {

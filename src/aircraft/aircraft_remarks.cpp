@@ -5,8 +5,8 @@
 #include <map>
 
 #include "aircraft/flight_model_folder.h"
-#include "core/plain_name.h"
-#include "core/store.h"
+#include "base/plain_name.h"
+#include "disk/store.h"
 
 namespace vorlund {
 
@@ -14,8 +14,8 @@ namespace {
 
 class Reviewer {
  public:
-  Reviewer(const Environment& environment, const PlaneTable& table, const InstallObservations& seen)
-      : environment_(environment), table_(table), seen_(seen) {}
+  Reviewer(const GameFolder& game, const PlaneTable& table, const InstallObservations& seen)
+      : game_(game), table_(table), seen_(seen) {}
 
   std::vector<std::string> review() {
     const bool group_is_there = review_group();
@@ -33,19 +33,19 @@ class Reviewer {
   }
 
  private:
-  const std::string& cell(int row, int column) const { return table_.G1.cell(row, column); }
+  const std::string& cell(int row, int column) const { return table_.cell(row, column); }
 
   void remark(int row, const std::string& text) {
     remarks_.push_back("slot " + cell(row, PlaneTable::kSlot) + ": " + text);
   }
 
   bool is_there(const std::string& folder) const {
-    return !folder.empty() && environment_.files.FolderExists(folder);
+    return !folder.empty() && game_.files.FolderExists(folder);
   }
 
   bool review_group() {
-    const std::string& group = table_.flight_model_group();
-    const bool there = is_there(flight_model_group_folder(environment_, table_));
+    const std::string& group = table_.flight_model_group;
+    const bool there = is_there(flight_model_group_folder(game_, table_));
     if (group.empty()) {
       remarks_.emplace_back(
           "no flight-model group is set, so \"~Vorlund\\FlightModels\" itself was taken for it");
@@ -62,7 +62,7 @@ class Reviewer {
     if (name.empty()) {
       remark(row, found ? "it has no flight model of its own, so the group's was taken"
                         : "it has no flight model");
-    } else if (!is_there(flight_model_folder(environment_, table_, row))) {
+    } else if (!is_there(flight_model_folder(game_, table_, row))) {
       remark(row, "the group has no flight-model folder \"" + name + "\"");
     } else if (!found) {
       remark(row,
@@ -79,7 +79,7 @@ class Reviewer {
       return;
     }
     const bool below = stays_below(region) && stays_below(name);
-    if (!below || !is_there(environment_.game.path(kSkinStore) + "\\" + region + "\\" + name)) {
+    if (!below || !is_there(game_.path(kSkinStore) + "\\" + region + "\\" + name)) {
       remark(row, "the store has no skin folder \"" + region + "\\" + name + "\"");
     }
   }
@@ -93,7 +93,7 @@ class Reviewer {
     earlier->second = row;
   }
 
-  const Environment& environment_;
+  const GameFolder& game_;
   const PlaneTable& table_;
   const InstallObservations& seen_;
   std::vector<std::string> remarks_;
@@ -102,9 +102,9 @@ class Reviewer {
 
 }  // namespace
 
-std::vector<std::string> aircraft_remarks(const Environment& environment, const PlaneTable& table,
+std::vector<std::string> aircraft_remarks(const GameFolder& game, const PlaneTable& table,
                                           const InstallObservations& seen) {
-  return Reviewer(environment, table, seen).review();
+  return Reviewer(game, table, seen).review();
 }
 
 }  // namespace vorlund

@@ -1,31 +1,27 @@
 // Forms the paths of flight models.
 #include "aircraft/flight_model_folder.h"
 
-#include "core/plain_name.h"
-#include "core/store.h"
+#include "base/plain_name.h"
+#include "disk/store.h"
 
 namespace vorlund {
 
-std::string flight_model_group_folder(const Environment& environment, const PlaneTable& table) {
-  const std::string& group = table.flight_model_group();
-  return stays_below(group) ? environment.game.path(kFlightModels) + "\\" + group : "";
+std::string flight_model_group_folder(const GameFolder& game, const PlaneTable& table) {
+  const std::string& group = table.flight_model_group;
+  return stays_below(group) ? game.path(kFlightModels) + "\\" + group : "";
 }
 
-std::string flight_model_folder(const Environment& environment, const PlaneTable& table, int row) {
-  const std::string group = flight_model_group_folder(environment, table);
-  const std::string& name = table.G1.cell(row, PlaneTable::kScriptFolder);
+std::string flight_model_folder(const GameFolder& game, const PlaneTable& table, int row) {
+  const std::string group = flight_model_group_folder(game, table);
+  const std::string& name = table.cell(row, PlaneTable::kScriptFolder);
   if (group.empty() || name.empty()) return group;
   return stays_below(name) ? group + "\\" + name : "";
 }
 
-void list_pattern(FileSystem& files, FileList& list, std::string_view pattern) {
-  list.pattern = pattern;
-  if (list.path.empty() || !files.FolderExists(list.path)) {
-    list.names.clear();
-    list.selected = -1;
-  } else {
-    list.refresh(files);
-  }
+std::vector<std::string> list_model_files(FileSystem& files, const std::string& folder,
+                                          std::string_view pattern) {
+  if (folder.empty() || !files.FolderExists(folder)) return {};
+  return list_files(files, folder, pattern);
 }
 
 }  // namespace vorlund

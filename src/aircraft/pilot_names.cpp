@@ -5,11 +5,11 @@
 #include <utility>
 
 #include "aircraft/plane_codes.h"
-#include "core/action_error.h"
-#include "core/code_page.h"
-#include "core/patch_file.h"
-#include "core/store.h"
-#include "core/text.h"
+#include "base/action_error.h"
+#include "base/code_page.h"
+#include "base/text.h"
+#include "disk/patch_file.h"
+#include "disk/store.h"
 
 namespace vorlund {
 
@@ -71,29 +71,28 @@ std::vector<std::string> parse_pilot_names(std::string_view bytes, std::string_v
 }
 
 std::string PilotNames::name(int record) const {
-  const bool held = record >= 0 && static_cast<std::size_t>(record) < PNameList.items.size();
+  const bool held = record >= 0 && static_cast<std::size_t>(record) < PNameList.size();
   if (!held) return {};
-  return PNameList.items[static_cast<std::size_t>(record)];
+  return PNameList[static_cast<std::size_t>(record)];
 }
 
 void PilotNames::set_name(int record, std::string name) {
-  PNameList.items.resize(kNames);
-  PNameList.items.at(static_cast<std::size_t>(record)) = std::move(name);
+  PNameList.resize(kNames);
+  PNameList.at(static_cast<std::size_t>(record)) = std::move(name);
 }
 
-void PilotNames::LoadPnames(const Environment& environment) {
-  const std::string path = environment.game.path(kPilotNames);
-  if (!is_there(environment.files, path)) return;
-  PNameList.items = parse_pilot_names(environment.files.read_file(path, kLongestRead), path);
-  PNameList.selected = -1;
+void PilotNames::LoadPnames(const GameFolder& game) {
+  const std::string path = game.path(kPilotNames);
+  if (!is_there(game.files, path)) return;
+  PNameList = parse_pilot_names(game.files.read_file(path, kLongestRead), path);
 }
 
-void PilotNames::SavePnames(const Environment& environment) {
-  const std::string path = environment.game.path(kPilotNames);
-  if (!environment.files.FileExists(path)) return;
-  PNameList.items.resize(kNames);
-  for (std::string& name : PNameList.items) name = trimmed(name);
-  environment.files.replace_file(path, compose_pilot_names(PNameList.items, path), Durability::kCached);
+void PilotNames::SavePnames(const GameFolder& game) {
+  const std::string path = game.path(kPilotNames);
+  if (!game.files.FileExists(path)) return;
+  PNameList.resize(kNames);
+  for (std::string& name : PNameList) name = trimmed(name);
+  game.files.replace_file(path, compose_pilot_names(PNameList, path), Durability::kCached);
 }
 
 }  // namespace vorlund

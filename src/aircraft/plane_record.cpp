@@ -4,20 +4,20 @@
 #include <algorithm>
 #include <vector>
 
-#include "core/code_page.h"
-#include "core/store.h"
-#include "core/text.h"
+#include "base/code_page.h"
+#include "base/text.h"
+#include "disk/store.h"
 
 namespace vorlund {
 
 std::string compose_plane_set(const PlaneTable& table) {
-  std::string text = table.flight_model_group() + "\r\n";
+  std::string text = table.flight_model_group + "\r\n";
   for (int row = 0; row < PlaneTable::kRows; ++row) {
     for (int column = 0; column < PlaneTable::kColumns - 1; ++column) {
-      text += table.G1.cell(row, column);
+      text += table.cell(row, column);
       text += '\t';
     }
-    text += table.G1.cell(row, PlaneTable::kColumns - 1);
+    text += table.cell(row, PlaneTable::kColumns - 1);
     text += "\r\n";
   }
   return encode_text(text);
@@ -27,12 +27,12 @@ void parse_plane_set(std::string_view bytes, PlaneTable& table) {
   const std::string text = decode_text(bytes);
   const std::vector<std::string_view> lines = split_lines(text);
   const std::string_view group = lines.empty() ? std::string_view() : lines.front();
-  table.set_flight_model_group(std::string(group));
+  table.flight_model_group = group;
   table.clear();
   for (std::size_t index = 1; index < lines.size(); ++index) {
     const std::vector<std::string_view> cells = split_cells(lines[index]);
     const std::size_t kept = std::min<std::size_t>(cells.size(), PlaneTable::kColumns);
-    table.G1.add_row({cells.begin(), cells.begin() + static_cast<std::ptrdiff_t>(kept)});
+    table.add_row({cells.begin(), cells.begin() + static_cast<std::ptrdiff_t>(kept)});
   }
   table.g1update();
 }
@@ -45,8 +45,8 @@ void read_plane_set(FileSystem& files, std::string_view path, PlaneTable& table)
   parse_plane_set(files.read_file(path), table);
 }
 
-void SavePS(Environment& environment, const PlaneTable& table) {
-  write_plane_set(environment.files, environment.game.path(kCurrentPlaneSet), table);
+void SavePS(const GameFolder& game, const PlaneTable& table) {
+  write_plane_set(game.files, game.path(kCurrentPlaneSet), table);
 }
 
 }  // namespace vorlund

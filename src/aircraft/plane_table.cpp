@@ -8,8 +8,8 @@
 #include <utility>
 
 #include "aircraft/plane_codes.h"
-#include "core/action_error.h"
-#include "core/text.h"
+#include "base/action_error.h"
+#include "base/text.h"
 
 namespace vorlund {
 
@@ -17,9 +17,6 @@ namespace {
 
 constexpr std::array<std::string_view, PlaneTable::kColumns> kHeader = {
     "Slot", "Region", "SkinFolder", "PlnDat", "ScriptFolder", "PName$", "Side", "Flyable", "Role", "Fuel %"};
-
-constexpr std::string_view kShowAll = "Show All";
-constexpr std::string_view kShowSelections = "Show Selections";
 
 using Succession = std::pair<std::string_view, std::string_view>;
 constexpr std::array<Succession, 4> kSides = {
@@ -67,62 +64,55 @@ bool is_number(std::string_view text) {
 }  // namespace
 
 PlaneTable::PlaneTable() {
-  G1.column_widths = {800, 1500, 3000, 800, 1200};
-  Label30.caption = kShowSelections;
   clear();
   fill_slots();
 }
 
-void PlaneTable::set_flight_model_group(std::string name) {
-  flight_model_group_ = std::move(name);
-  for (Label& label : Label25) label.caption = flight_model_group_;
-}
-
 void PlaneTable::clear() {
-  G1.columns = kColumns;
-  G1.rows.clear();
-  G1.row = 0;
-  G1.column = 0;
+  columns = kColumns;
+  rows.clear();
+  current_row = 0;
+  current_column = 0;
 }
 
-void PlaneTable::clear_all() {
-  for (int row = 1; row < G1.row_count(); ++row) {
-    for (int column = 1; column < kColumns; ++column) G1.set_cell(row, column, "");
+void PlaneTable::clear_slots() {
+  for (int row = 1; row < row_count(); ++row) {
+    for (int column = 1; column < kColumns; ++column) set_cell(row, column, "");
   }
-  for (Label& label : Label25) label.caption.clear();
+  g1update();
 }
 
 void PlaneTable::fill_slots() {
-  if (G1.rows.empty()) G1.add_row({kHeader.begin(), kHeader.end()});
-  if (G1.row_count() > kRows) G1.rows.resize(kRows);
-  while (G1.row_count() < kRows) {
-    G1.add_row({});
-    G1.rows.back().hidden = Label30.caption == kShowAll;
+  if (rows.empty()) add_row({kHeader.begin(), kHeader.end()});
+  if (row_count() > kRows) rows.resize(kRows);
+  while (row_count() < kRows) {
+    add_row({});
+    rows.back().hidden = !shows_all;
   }
   const PlaneCodes codes = PlaneCodeSet();
   for (int index = 0; index < kPlaneCount; ++index) {
-    G1.set_cell(index + 1, kSlot, to_upper(codes[static_cast<std::size_t>(index)]));
+    set_cell(index + 1, kSlot, to_upper(codes[static_cast<std::size_t>(index)]));
   }
-  if (!has_slot(G1.row)) select(0, 0);
+  if (!has_slot(current_row)) select(0, 0);
 }
 
 bool PlaneTable::is_used(int row) const {
   for (int column = 1; column < kColumns; ++column) {
-    if (!G1.cell(row, column).empty()) return true;
+    if (!cell(row, column).empty()) return true;
   }
   return false;
 }
 
 std::vector<int> PlaneTable::shown_slots() const {
   std::vector<int> slots;
-  for (int row = 1; row < std::min(kRows, G1.row_count()); ++row) {
-    if (!G1.rows[static_cast<std::size_t>(row)].hidden) slots.push_back(row);
+  for (int row = 1; row < std::min(kRows, row_count()); ++row) {
+    if (!is_hidden(row)) slots.push_back(row);
   }
   return slots;
 }
 
 int PlaneTable::record_number(int row) const {
-  const std::string& text = G1.cell(row, kRecordNumber);
+  const std::string& text = cell(row, kRecordNumber);
   const double number = std::floor(leading_number(text));
   if (number < std::numeric_limits<std::int16_t>::min() ||
       number > std::numeric_limits<std::int16_t>::max()) {
@@ -133,52 +123,51 @@ int PlaneTable::record_number(int row) const {
 }
 
 void PlaneTable::select(int row, int column) {
-  G1.row = has_slot(row) ? row : 0;
-  G1.column = std::clamp(column, 0, kColumns - 1);
+  current_row = has_slot(row) ? row : 0;
+  current_column = std::clamp(column, 0, kColumns - 1);
 }
 
 void PlaneTable::g1update() {
-  if (G1.rows.empty()) G1.add_row({kHeader.begin(), kHeader.end()});
-  for (int row = 1; row < std::min(kRows, G1.row_count()); ++row) {
-    G1.rows[static_cast<std::size_t>(row)].hidden = !is_used(row);
+  if (rows.empty()) add_row({kHeader.begin(), kHeader.end()});
+  for (int row = 1; row < std::min(kRows, row_count()); ++row) {
+    hide_row(row, !is_used(row));
   }
-  Label30.caption = kShowAll;
+  shows_all = false;
 }
 
 void PlaneTable::show_row(int row) {
-  if (row < G1.row_count()) G1.rows[static_cast<std::size_t>(row)].hidden = false;
+  if (row < row_count()) hide_row(row, false);
 }
 
-void PlaneTable::Label30_Click() {
-  if (Label30.caption != kShowAll) {
+void PlaneTable::switch_view() {
+  if (shows_all) {
     g1update();
     return;
   }
-  for (int row = 1; row < std::min(kRows, G1.row_count()); ++row) {
-    G1.rows[static_cast<std::size_t>(row)].hidden = false;
+  for (int row = 1; row < std::min(kRows, row_count()); ++row) {
+    hide_row(row, false);
   }
-  Label30.caption = kShowSelections;
+  shows_all = true;
 }
 
-void PlaneTable::Label3_Click() {
-  const int cleared = G1.row;
-  if (!has_slot(cleared)) return;
-  for (int column = 1; column < kColumns; ++column) G1.set_cell(cleared, column, "");
+void PlaneTable::clear_current() {
+  if (!has_slot(current_row)) return;
+  for (int column = 1; column < kColumns; ++column) set_cell(current_row, column, "");
   g1update();
 }
 
 void PlaneTable::cycle(int row, int column) {
   if (!has_slot(row)) return;
-  const std::string value = G1.cell(row, column);
+  const std::string value = cell(row, column);
   switch (column) {
     case kSide:
-      G1.set_cell(row, column, successor(kSides, value));
+      set_cell(row, column, successor(kSides, value));
       break;
     case kFlyable:
-      G1.set_cell(row, column, successor(kFlyables, value));
+      set_cell(row, column, successor(kFlyables, value));
       break;
     case kRole:
-      G1.set_cell(row, column, successor(kRoles, value));
+      set_cell(row, column, successor(kRoles, value));
       break;
     case kFuel:
       cycle_fuel(row);
@@ -189,22 +178,22 @@ void PlaneTable::cycle(int row, int column) {
 }
 
 void PlaneTable::cycle_fuel(int row) {
-  const std::string value = G1.cell(row, kFuel);
+  const std::string value = cell(row, kFuel);
   if (value.empty()) return;
   if (!is_number(value)) {
     throw ActionError("change the fuel in", describe_cell(row, kFuel),
                       "type mismatch: \"" + value + "\" is not a number");
   }
   const double percent = leading_number(value);
-  if (percent == 100) G1.set_cell(row, kFuel, "75");
-  if (percent == 75) G1.set_cell(row, kFuel, "50");
-  if (percent == 50) G1.set_cell(row, kFuel, "25");
-  if (percent == 25) G1.set_cell(row, kFuel, "100");
+  if (percent == 100) set_cell(row, kFuel, "75");
+  if (percent == 75) set_cell(row, kFuel, "50");
+  if (percent == 50) set_cell(row, kFuel, "25");
+  if (percent == 25) set_cell(row, kFuel, "100");
 }
 
 std::string PlaneTable::describe_cell(int row, int column) const {
   return "column " + std::string(kHeader.at(static_cast<std::size_t>(column))) + " of row " +
-         std::to_string(row) + ", slot " + G1.cell(row, kSlot);
+         std::to_string(row) + ", slot " + cell(row, kSlot);
 }
 
 }  // namespace vorlund

@@ -6,13 +6,13 @@
 #include <string>
 
 #include "aircraft/flight_model_folder.h"
-#include "aircraft/number_text.h"
 #include "aircraft/positioned_file.h"
 #include "aircraft/value_file.h"
-#include "core/action_error.h"
-#include "core/code_page.h"
-#include "core/store.h"
-#include "core/text.h"
+#include "base/action_error.h"
+#include "base/code_page.h"
+#include "base/number_text.h"
+#include "base/text.h"
+#include "disk/store.h"
 
 namespace vorlund {
 
@@ -37,7 +37,7 @@ class RecordWriter {
         row_(row),
         base_(kRecordSize * record + kHeaderSize),
         fuel_percent_(fuel_percent),
-        slot_(encode_text(table.G1.cell(row, PlaneTable::kSlot))),
+        slot_(encode_text(table.cell(row, PlaneTable::kSlot))),
         values_(values),
         planes_(planes) {}
 
@@ -50,7 +50,7 @@ class RecordWriter {
   }
 
  private:
-  const std::string& cell(int column) const { return table_.G1.cell(row_, column); }
+  const std::string& cell(int column) const { return table_.cell(row_, column); }
 
   double patched(int line, double value) {
     switch (line) {
@@ -131,7 +131,7 @@ class RecordWriter {
 };
 
 int fuel_percent(const PlaneTable& table, int row) {
-  const std::string& text = table.G1.cell(row, PlaneTable::kFuel);
+  const std::string& text = table.cell(row, PlaneTable::kFuel);
   const double percent = std::floor(leading_number(text));
   if (percent < std::numeric_limits<std::int16_t>::min() ||
       percent > std::numeric_limits<std::int16_t>::max()) {
@@ -143,19 +143,16 @@ int fuel_percent(const PlaneTable& table, int row) {
 
 }  // namespace
 
-OawOutcome OawWrite(Environment& environment, const PlaneTable& table, int row, FileList& selected) {
+bool OawWrite(const GameFolder& game, const PlaneTable& table, int row, PatchedFile& planes) {
   const int record = table.record_number(row);
   const int fuel = fuel_percent(table, row);
-  selected.path = flight_model_folder(environment, table, row);
-  list_pattern(environment.files, selected, "*.oaw");
-  if (selected.names.empty()) return OawOutcome::kNoFlightModel;
-  const std::string path = environment.game.path(kPlanesData);
-  patch_file(environment.files, path, [&](PatchedBytes& content) {
-    PositionedFile planes(content, path, table.describe_cell(row, PlaneTable::kRecordNumber));
-    ValueFile values(environment.files, selected.path + "\\" + selected.names.front());
-    RecordWriter(table, row, record, fuel, values, planes).write();
-  });
-  return OawOutcome::kWritten;
+  const std::string folder = flight_model_folder(game, table, row);
+  const std::vector<std::string> models = list_model_files(game.files, folder, "*.oaw");
+  if (models.empty()) return false;
+  PositionedFile content(planes.open(), planes.path(), table.describe_cell(row, PlaneTable::kRecordNumber));
+  ValueFile values(game.files, folder + "\\" + models.front());
+  RecordWriter(table, row, record, fuel, values, content).write();
+  return true;
 }
 
 }  // namespace vorlund

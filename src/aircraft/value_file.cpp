@@ -4,8 +4,8 @@
 #include <cmath>
 #include <utility>
 
-#include "aircraft/number_text.h"
-#include "core/action_error.h"
+#include "base/action_error.h"
+#include "base/number_text.h"
 
 namespace vorlund {
 

@@ -7,10 +7,10 @@
 #include <utility>
 #include <vector>
 
-#include "core/copier.h"
-#include "core/plain_name.h"
-#include "core/store.h"
-#include "core/text.h"
+#include "base/plain_name.h"
+#include "base/text.h"
+#include "disk/copier.h"
+#include "disk/store.h"
 #include "gamesets/loader_patch.h"
 
 namespace vorlund {
@@ -19,8 +19,8 @@ namespace {
 
 class Installation {
  public:
-  Installation(Environment& environment, const GameTable& table)
-      : environment_(environment), table_(table), copier_(environment) {}
+  Installation(const GameFolder& game, Status& status, const GameTable& table)
+      : game_(game), table_(table), copier_(game, status) {}
 
   GameSetSummary run() {
     look_ahead();
@@ -39,15 +39,15 @@ class Installation {
   };
 
   void look_ahead() {
-    for (int index = 1; index < table_.G2.row_count(); ++index) {
-      const std::string& group = table_.G2.cell(index, GameTable::kGroup);
-      const std::string& folder_name = table_.G2.cell(index, GameTable::kFolder);
+    for (int index = 1; index < table_.row_count(); ++index) {
+      const std::string& group = table_.cell(index, GameTable::kGroup);
+      const std::string& folder_name = table_.cell(index, GameTable::kFolder);
       if (folder_name.empty()) continue;
       Row row;
       row.name = group + "\\" + folder_name;
-      row.folder = environment_.game.path(kGameStore) + "\\" + row.name;
-      if (stays_below(group) && stays_below(folder_name) && environment_.files.FolderExists(row.folder)) {
-        row.files.emplace(environment_.files, row.folder, "*.*");
+      row.folder = game_.path(kGameStore) + "\\" + row.name;
+      if (stays_below(group) && stays_below(folder_name) && game_.files.FolderExists(row.folder)) {
+        row.files.emplace(game_.files, row.folder, "*.*");
         copier_.expect(row.files->count());
       }
       rows_.push_back(std::move(row));
@@ -69,13 +69,13 @@ class Installation {
   void install_file(const std::string& source, const std::string& name) {
     switch (use_of_set_file(name)) {
       case SetFileUse::kGameDirectory:
-        copier_.copy(source, environment_.game.path("\\") + name);
+        copier_.copy(source, game_.path("\\") + name);
         break;
       case SetFileUse::kSavedata:
-        copier_.copy(source, environment_.game.path(kSavedata) + "\\" + name);
+        copier_.copy(source, game_.path(kSavedata) + "\\" + name);
         break;
       case SetFileUse::kMusic:
-        copier_.copy(source, environment_.game.path(kMusic) + "\\" + name);
+        copier_.copy(source, game_.path(kMusic) + "\\" + name);
         break;
       case SetFileUse::kPatch:
         patch(source);
@@ -86,15 +86,15 @@ class Installation {
   }
 
   void patch(const std::string& source) {
-    if (!environment_.files.FileExists(environment_.game.path(kGameProgram))) {
+    if (!game_.files.FileExists(game_.path(kGameProgram))) {
       ++summary_.patches_passed;
       return;
     }
-    install_loader_patch(environment_, source);
+    install_loader_patch(game_, source);
     ++summary_.patches;
   }
 
-  Environment& environment_;
+  const GameFolder& game_;
   const GameTable& table_;
   Copier copier_;
   std::vector<Row> rows_;
@@ -144,8 +144,8 @@ std::string GameSetSummary::text() const {
   return text;
 }
 
-GameSetSummary install_game_set(Environment& environment, const GameTable& table) {
-  return Installation(environment, table).run();
+GameSetSummary install_game_set(const GameFolder& game, Status& status, const GameTable& table) {
+  return Installation(game, status, table).run();
 }
 
 }  // namespace vorlund

@@ -4,18 +4,18 @@
 #include <string>
 #include <vector>
 
-#include "core/code_page.h"
-#include "core/store.h"
-#include "core/text.h"
+#include "base/code_page.h"
+#include "base/text.h"
+#include "disk/store.h"
 
 namespace vorlund {
 
 void write_game_set(FileSystem& files, std::string_view path, const GameTable& table) {
   std::string text;
-  for (int row = 0; row < table.G2.row_count(); ++row) {
-    text += table.G2.cell(row, GameTable::kGroup);
+  for (int row = 0; row < table.row_count(); ++row) {
+    text += table.cell(row, GameTable::kGroup);
     text += '\t';
-    text += table.G2.cell(row, GameTable::kFolder);
+    text += table.cell(row, GameTable::kFolder);
     text += "\r\n";
   }
   files.replace_file(path, encode_text(text), Durability::kFlushed);
@@ -26,13 +26,13 @@ void read_game_set(FileSystem& files, std::string_view path, GameTable& table) {
   table.clear();
   for (const std::string_view line : split_lines(text)) {
     const std::vector<std::string_view> cells = split_cells(line);
-    table.G2.add_row({cells.begin(), cells.end()});
+    table.add_row({cells.begin(), cells.end()});
   }
   table.g2update();
 }
 
-void SaveGS(Environment& environment, const GameTable& table) {
-  write_game_set(environment.files, environment.game.path(kCurrentGameSet), table);
+void SaveGS(const GameFolder& game, const GameTable& table) {
+  write_game_set(game.files, game.path(kCurrentGameSet), table);
 }
 
 }  // namespace vorlund

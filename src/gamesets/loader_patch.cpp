@@ -6,7 +6,7 @@
 #include <memory>
 #include <string>
 
-#include "core/store.h"
+#include "disk/store.h"
 
 namespace vorlund {
 
@@ -43,10 +43,18 @@ void apply_loader_patch(FileReader& patch, PatchedBytes& executable) {
   }
 }
 
-void install_loader_patch(Environment& environment, std::string_view patch_path) {
-  const std::unique_ptr<FileReader> patch = environment.files.open_file(patch_path);
-  patch_file(environment.files, environment.game.path(kGameProgram),
-             [&](PatchedBytes& executable) { apply_loader_patch(*patch, executable); });
+void install_loader_patch(const GameFolder& game, std::string_view patch_path) {
+  const std::unique_ptr<FileReader> patch = game.files.open_file(patch_path);
+  PatchedFile executable(game.files, game.path(kGameProgram));
+  executable.patch([&] {
+    PatchedBytes& bytes = executable.open();
+    try {
+      apply_loader_patch(*patch, bytes);
+    } catch (...) {
+      bytes.revert();  // a patch that can't be read to its end is not applied at all
+      throw;
+    }
+  });
 }
 
 }  // namespace vorlund

@@ -9,9 +9,10 @@
 #include <vector>
 
 #include "aircraft/plane_table.h"
-#include "core/action_error.h"
-#include "core/listing.h"
-#include "support/sample_environment.h"
+#include "base/action_error.h"
+#include "disk/game_folder.h"
+#include "disk/patch_file.h"
+#include "support/recording_status.h"
 #include "support/temporary_folder.h"
 
 namespace vorlund::test {
@@ -43,7 +44,7 @@ class AircraftTest : public ::testing::Test {
  protected:
   AircraftTest() {
     folder.make_folder("~Vorlund/FlightModels/1944");
-    table.set_flight_model_group("1944");
+    table.flight_model_group = "1944";
   }
 
   /// Writes a file of a flight model of the group.
@@ -54,14 +55,14 @@ class AircraftTest : public ::testing::Test {
   /// Fills the cells of a row from "PlnDat" on: record, flight model, name, side, flyable, role, fuel.
   void fill_row(int row, const std::vector<std::string>& cells) {
     int column = PlaneTable::kRecordNumber;
-    for (const std::string& cell : cells) table.G1.set_cell(row, column++, cell);
+    for (const std::string& cell : cells) table.set_cell(row, column++, cell);
   }
 
   TemporaryFolder folder;
   std::unique_ptr<FileSystem> files = make_platform_file_system();
-  SampleEnvironment environment{*files, folder.path()};
+  GameFolder game{*files, folder.path()};
+  test::RecordingStatus status;
   PlaneTable table;
-  FileList selected;
 };
 
 }  // namespace vorlund::test

@@ -4,7 +4,7 @@
 #include "aircraft/aircraft_fixture.h"
 #include "aircraft/aircraft_installer.h"
 #include "aircraft/plane_record.h"
-#include "core/plain_name.h"
+#include "base/plain_name.h"
 
 namespace vorlund {
 namespace {
@@ -73,12 +73,12 @@ class HostileCells : public ::testing::Test {
   /// Installs a table whose only row has these cells; an error is one way for it to end.
   std::string install(const std::string& group, const std::vector<std::string>& cells) {
     PlaneTable table;
-    table.set_flight_model_group(group);
-    table.G1.rows[1].cells = cells;
+    table.flight_model_group = group;
+    table.rows[1].cells = cells;
     table.g1update();
     PilotNames names;
-    MenuEditor menu_editor(environment);
-    return error_of([&] { install_aircraft_set(environment, table, names, menu_editor); });
+    PictureMenu menu;
+    return error_of([&] { install_aircraft_set(game, status, table, names, menu); });
   }
 
   /// Files of the game folder itself besides pnames.str, which were not there before.
@@ -95,7 +95,8 @@ class HostileCells : public ::testing::Test {
   test::TemporaryFolder folder;
   Tree before;
   std::unique_ptr<FileSystem> files = make_platform_file_system();
-  test::SampleEnvironment environment{*files, folder.path("game")};
+  GameFolder game{*files, folder.path("game")};
+  test::RecordingStatus status;
 };
 
 TEST_F(HostileCells, TheBaitIsTakenWhereTheNamesArePlain) {
@@ -163,8 +164,8 @@ TEST_F(HostileCells, OfARecordAreReadAndInstalledWithoutHarm) {
   PlaneTable table;
   parse_plane_set(record, table);
   PilotNames names;
-  MenuEditor menu_editor(environment);
-  error_of([&] { install_aircraft_set(environment, table, names, menu_editor); });
+  PictureMenu menu;
+  error_of([&] { install_aircraft_set(game, status, table, names, menu); });
   for (const auto& [name, bytes] : before) {
     if (name.starts_with("game/") && name.rfind('/') == 4) continue;
     EXPECT_EQ(folder.read(name), bytes) << name;

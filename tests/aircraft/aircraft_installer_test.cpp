@@ -25,7 +25,7 @@ class AircraftInstaller : public test::AircraftTest {
  protected:
   AircraftInstaller() { table.g1update(); }
 
-  AircraftSummary install() { return install_aircraft_set(environment, table, names, menu_editor); }
+  AircraftSummary install() { return install_aircraft_set(game, status, table, names, menu); }
 
   std::string install_error() {
     return error_of([&] { install(); });
@@ -48,8 +48,8 @@ class AircraftInstaller : public test::AircraftTest {
   }
 
   void wear(int row, const std::string& region, const std::string& skin) {
-    table.G1.set_cell(row, PlaneTable::kRegion, region);
-    table.G1.set_cell(row, PlaneTable::kSkinFolder, skin);
+    table.set_cell(row, PlaneTable::kRegion, region);
+    table.set_cell(row, PlaneTable::kSkinFolder, skin);
     table.g1update();
   }
 
@@ -60,7 +60,7 @@ class AircraftInstaller : public test::AircraftTest {
     return found;
   }
 
-  MenuEditor menu_editor{environment};
+  PictureMenu menu;
   PilotNames names;
 };
 
@@ -77,7 +77,7 @@ TEST_F(AircraftInstaller, CopiesTheFilesOfTheGroupAloneReplacingWhatIsThere) {
 }
 
 TEST_F(AircraftInstaller, MissingGroupCopiesNothingAndGoesOn) {
-  table.set_flight_model_group("1939");
+  table.flight_model_group = "1939";
   use(kP38H, "0", "P38");
   const AircraftSummary summary = install();
   EXPECT_TRUE(game_names().empty());
@@ -87,24 +87,24 @@ TEST_F(AircraftInstaller, MissingGroupCopiesNothingAndGoesOn) {
 }
 
 TEST_F(AircraftInstaller, WithoutANameListTheMenusKeepTheirNames) {
-  std::string menu(35, 'h');
+  std::string made_menu(35, 'h');
   for (const char* name : {"A", "B", "C", "D", "E", "F", "G", "H", "I"}) {
-    menu += "\2\0\0\0"s + name + '\0' + std::string(15, 't');
+    made_menu += "\2\0\0\0"s + name + '\0' + std::string(15, 't');
   }
-  folder.write("picplnb.mnu", menu + "tail");
+  folder.write("picplnb.mnu", made_menu + "tail");
   EXPECT_EQ(install().menus, 1u);
-  EXPECT_EQ(folder.read("picplnb.mnu"), menu) << "read and written, what followed is dropped";
+  EXPECT_EQ(folder.read("picplnb.mnu"), made_menu) << "read and written, what followed is dropped";
   write_names({"N0"});
-  names.LoadPnames(environment);
-  folder.write("picplnb.mnu", menu);
+  names.LoadPnames(game);
+  folder.write("picplnb.mnu", made_menu);
   files->remove_file(folder.path("pnames.str"));
   install();
-  EXPECT_NE(folder.read("picplnb.mnu"), menu) << "a list that was read since the start gives the names";
+  EXPECT_NE(folder.read("picplnb.mnu"), made_menu) << "a list that was read since the start gives the names";
 }
 
 TEST_F(AircraftInstaller, AnEmptyGroupIsTheFolderOfAllGroups) {
   folder.write("~Vorlund/FlightModels/stray.dat", "stray");
-  table.set_flight_model_group("");
+  table.flight_model_group = "";
   const AircraftSummary summary = install();
   EXPECT_EQ(folder.read("stray.dat"), "stray");
   EXPECT_EQ(
@@ -114,7 +114,7 @@ TEST_F(AircraftInstaller, AnEmptyGroupIsTheFolderOfAllGroups) {
 }
 
 TEST_F(AircraftInstaller, FlightModelFileIsCopiedUnderTheSlotCode) {
-  table.G1.set_cell(kP38H, PlaneTable::kSlot, "p38h");
+  table.set_cell(kP38H, PlaneTable::kSlot, "p38h");
   use(kP38H, "0", "P38");
   use(kP51B, "4", "P51");
   use(kSP09, "11", "Spit9");
@@ -225,7 +225,7 @@ TEST_F(AircraftInstaller, NamesOfUsedRowsAreSetByRecordNumberAndTheOthersKept) {
   expected[29] = "Lightning";
   expected[0] = "Mustang";
   EXPECT_EQ(read_names(), expected);
-  EXPECT_EQ(names.PNameList.items, expected);
+  EXPECT_EQ(names.PNameList, expected);
 }
 
 TEST_F(AircraftInstaller, RecordNumberWithoutANameIsASubscriptError) {
@@ -242,7 +242,7 @@ TEST_F(AircraftInstaller, WithoutANameFileNoneIsCreatedAndTheViewIsNotRefreshed)
   use(kP38H, "0", "P38");
   flight_model("P38", "1");
   model("group.oaw", value_text("title", same_values(168, "9")));
-  table.Label30_Click();  // all thirty slots are shown
+  table.switch_view();  // all thirty slots are shown
   const AircraftSummary summary = install();
   EXPECT_FALSE(folder.has("pnames.str"));
   EXPECT_EQ(summary.slots, 30u);
@@ -257,7 +257,7 @@ TEST_F(AircraftInstaller, WithANameFileTheViewShowsUsedRowsAndOnlyTheyAreInstall
   use(kP38H, "0", "P38");
   flight_model("P38", "1");
   model("group.oaw", value_text("title", same_values(168, "9")));
-  table.Label30_Click();
+  table.switch_view();
   const AircraftSummary summary = install();
   EXPECT_EQ(summary.slots, 1u);
   EXPECT_EQ(table.shown_slots(), std::vector<int>{kP38H});
@@ -275,7 +275,7 @@ TEST_F(AircraftInstaller, MenusGetTheNamesOfTheirRecordsInOrder) {
   std::vector<std::string> texts;
   for (int record = 0; record < kPlaneCount; ++record) texts.push_back("N" + std::to_string(record));
   write_names(texts);
-  const auto menu = [](const std::vector<std::string>& entries) {
+  const auto whole_menu = [](const std::vector<std::string>& entries) {
     std::string bytes(35, 'h');
     for (const std::string& entry : entries) {
       bytes += static_cast<char>(entry.size() + 1);
@@ -284,14 +284,16 @@ TEST_F(AircraftInstaller, MenusGetTheNamesOfTheirRecordsInOrder) {
     return bytes;
   };
   const std::vector<std::string> old(9, "Old");
-  folder.write("picplnb.mnu", menu(old) + "tail");
-  folder.write("PICPLNA.MNU", menu(old));
-  folder.write("picplng.mnu", menu(std::vector<std::string>(11, "Alt")));
+  folder.write("picplnb.mnu", whole_menu(old) + "tail");
+  folder.write("PICPLNA.MNU", whole_menu(old));
+  folder.write("picplng.mnu", whole_menu(std::vector<std::string>(11, "Alt")));
   const AircraftSummary summary = install();
-  EXPECT_EQ(folder.read("picplnb.mnu"), menu({"N13", "N11", "N10", "N9", "N14", "N12", "Old", "Old", "Old"}));
-  EXPECT_EQ(folder.read("PICPLNA.MNU"), menu({"N5", "N3", "N4", "N2", "N0", "N1", "Old", "Old", "Old"}));
+  EXPECT_EQ(folder.read("picplnb.mnu"),
+            whole_menu({"N13", "N11", "N10", "N9", "N14", "N12", "Old", "Old", "Old"}));
+  EXPECT_EQ(folder.read("PICPLNA.MNU"),
+            whole_menu({"N5", "N3", "N4", "N2", "N0", "N1", "Old", "Old", "Old"}));
   EXPECT_EQ(folder.read("picplng.mnu"),
-            menu({"N18", "N17", "N22", "N23", "N16", "N24", "N20", "N19", "Alt", "Alt", "Alt"}));
+            whole_menu({"N18", "N17", "N22", "N23", "N16", "N24", "N20", "N19", "Alt", "Alt", "Alt"}));
   EXPECT_EQ(summary.menus, 3u);
 }
 
@@ -301,9 +303,9 @@ TEST_F(AircraftInstaller, NamesTooLongForAMenuAreCut) {
   write_names(texts);
   folder.write("picplnb.mnu", "");
   install();
-  const std::string menu = folder.read("picplnb.mnu");
-  EXPECT_EQ(menu[35], '\xFF');
-  EXPECT_EQ(menu.substr(39, 256), std::string(254, 'n') + std::string(2, '\0'));
+  const std::string written_menu = folder.read("picplnb.mnu");
+  EXPECT_EQ(written_menu[35], '\xFF');
+  EXPECT_EQ(written_menu.substr(39, 256), std::string(254, 'n') + std::string(2, '\0'));
   EXPECT_EQ(read_names()[13], std::string(300, 'n'));
 }
 
@@ -340,9 +342,9 @@ TEST_F(AircraftInstaller, InstallingAgainGivesTheSameGameFolder) {
   model("P38/a.flt", "flight model");
   model("P38/a.lo2", value_text("title", same_values(60, "5")));
   model("group.dat", "group");
-  std::string menu(35, 'h');
-  for (int entry = 0; entry < 9; ++entry) menu += "\1\0\0\0\0"s + std::string(15, 't');
-  folder.write("picplna.mnu", menu);
+  std::string made_menu(35, 'h');
+  for (int entry = 0; entry < 9; ++entry) made_menu += "\1\0\0\0\0"s + std::string(15, 't');
+  folder.write("picplna.mnu", made_menu);
   install();
   const auto once = folder.tree();
   const AircraftSummary summary = install();
@@ -365,14 +367,11 @@ TEST_F(AircraftInstaller, ChangesTheDiskInTheOrderOfItsSteps) {
   }
   folder.write("picplng.mnu", "menu");
   test::RecordingFileSystem recording(*files);
-  test::SampleEnvironment recorded(recording, folder.path());
-  MenuEditor editor(recorded);
-  install_aircraft_set(recorded, table, names, editor);
+  install_aircraft_set({recording, folder.path()}, status, table, names, menu);
   std::vector<std::string> changes = recording.changes();
   for (std::string& change : changes) change = change.substr(change.rfind('\\') + 1);
-  EXPECT_EQ(changes,
-            (std::vector<std::string>{"group.dat", "pnames.str", "Planes.dat", "Planes.dat", "loadout.dat",
-                                      "loadout.dat", "P38H.flt", "p.tpc", "P51B.flt", "picplng.mnu"}));
+  EXPECT_EQ(changes, (std::vector<std::string>{"group.dat", "pnames.str", "Planes.dat", "loadout.dat",
+                                               "P38H.flt", "p.tpc", "P51B.flt", "picplng.mnu"}));
 }
 
 TEST_F(AircraftInstaller, ProgressNeverGoesBack) {
@@ -381,7 +380,7 @@ TEST_F(AircraftInstaller, ProgressNeverGoesBack) {
   for (const char* name : {"M0", "M1", "M2"}) model(name + "/a.flt"s, "flight model");
   for (const char* name : {"a", "b", "c"}) model(name, "group");
   install();
-  const std::vector<double>& fractions = environment.status.fractions;
+  const std::vector<double>& fractions = status.fractions;
   EXPECT_GT(fractions.size(), 60u);
   EXPECT_TRUE(std::is_sorted(fractions.begin(), fractions.end()));
   EXPECT_GE(fractions.front(), 0);

@@ -17,12 +17,18 @@ class LoadoutData : public test::AircraftTest {
  protected:
   LoadoutData() {
     fill_row(1, {"0"});
-    selected.path = folder.path("~Vorlund\\FlightModels\\1944\\Spit9");
     folder.write("loadout.dat", std::string(10000, '\xEE'));
   }
 
-  void set_record(const std::string& number) { table.G1.set_cell(1, PlaneTable::kRecordNumber, number); }
-  LoadOutOutcome write() { return LoadOutWrite(environment, table, 1, selected); }
+  void set_record(const std::string& number) { table.set_cell(1, PlaneTable::kRecordNumber, number); }
+  LoadOutOutcome write() {
+    PatchedFile loadouts(*files, folder.path("loadout.dat"));
+    LoadOutOutcome outcome;
+    loadouts.patch([&] {
+      outcome = LoadOutWrite(game, table, 1, folder.path("~Vorlund\\FlightModels\\1944\\Spit9"), loadouts);
+    });
+    return outcome;
+  }
   std::string error() {
     return error_of([&] { write(); });
   }

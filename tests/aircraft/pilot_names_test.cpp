@@ -32,11 +32,11 @@ class PilotNamesFile : public test::AircraftTest {
  protected:
   void load(const std::string& bytes) {
     folder.write("pnames.str", bytes);
-    names.LoadPnames(environment);
+    names.LoadPnames(game);
   }
 
   std::string saved() {
-    names.SavePnames(environment);
+    names.SavePnames(game);
     return folder.read("pnames.str");
   }
 
@@ -53,7 +53,7 @@ TEST_F(PilotNamesFile, ThirtyEmptyNamesGive158Bytes) {
 
 TEST_F(PilotNamesFile, NamesShiftThePositionsOfThoseThatFollow) {
   folder.write("pnames.str", "old");
-  names.PNameList.items = {"A", "Camel!"};
+  names.PNameList = {"A", "Camel!"};
   std::vector<int> positions = {120, 122};
   for (int index = 2; index < 30; ++index) positions.push_back(129 + index - 2);
   EXPECT_EQ(saved(), name_file(157, 30, positions, "A\0Camel!\0"s + std::string(28, '\0')));
@@ -61,18 +61,18 @@ TEST_F(PilotNamesFile, NamesShiftThePositionsOfThoseThatFollow) {
 
 TEST_F(PilotNamesFile, NamesAreTrimmedInTheFileAndInTheList) {
   folder.write("pnames.str", "old");
-  names.PNameList.items = {"  Spit  fire  ", "   ", "\tTab "};
+  names.PNameList = {"  Spit  fire  ", "   ", "\tTab "};
   const std::string bytes = saved();
   EXPECT_EQ(bytes.substr(128, 18), "Spit  fire\0\0\tTab\0\0"s);
   EXPECT_EQ(names.name(0), "Spit  fire");
   EXPECT_EQ(names.name(1), "");
   EXPECT_EQ(names.name(2), "\tTab");
-  EXPECT_EQ(names.PNameList.items.size(), 30u);
+  EXPECT_EQ(names.PNameList.size(), 30u);
 }
 
 TEST_F(PilotNamesFile, NamesAreCountedInBytesOfTheCodePage) {
   folder.write("pnames.str", "old");
-  names.PNameList.items = {"\u00C9clair \u20AC", "next"};
+  names.PNameList = {"\u00C9clair \u20AC", "next"};
   const std::string bytes = saved();
   EXPECT_EQ(bytes.substr(128, 14),
             "\xC9"
@@ -84,12 +84,12 @@ TEST_F(PilotNamesFile, WritingAndReadingBackGivesTheSameNames) {
   Names expected;
   for (int index = 0; index < 30; ++index) expected.push_back("Name \u00E9 " + std::to_string(index * index));
   folder.write("pnames.str", "old");
-  names.PNameList.items = expected;
+  names.PNameList = expected;
   const std::string bytes = saved();
   PilotNames read;
-  read.LoadPnames(environment);
-  EXPECT_EQ(read.PNameList.items, expected);
-  read.SavePnames(environment);
+  read.LoadPnames(game);
+  EXPECT_EQ(read.PNameList, expected);
+  read.SavePnames(game);
   EXPECT_EQ(folder.read("pnames.str"), bytes);
 }
 
@@ -105,18 +105,18 @@ TEST_F(PilotNamesFile, StringsMayStandInAnyOrder) {
 }
 
 TEST_F(PilotNamesFile, MissingFileChangesNothingAndIsNeverCreated) {
-  names.PNameList.items = {"  kept  "};
-  names.LoadPnames(environment);
-  names.SavePnames(environment);
-  EXPECT_EQ(names.PNameList.items, Names{"  kept  "});
+  names.PNameList = {"  kept  "};
+  names.LoadPnames(game);
+  names.SavePnames(game);
+  EXPECT_EQ(names.PNameList, Names{"  kept  "});
   EXPECT_FALSE(folder.has("pnames.str"));
 }
 
 TEST_F(PilotNamesFile, NameWithAZeroByteEndsEarlyWhenReadBack) {
   folder.write("pnames.str", "old");
-  names.PNameList.items = {"ab\0cd"s, "next"};
+  names.PNameList = {"ab\0cd"s, "next"};
   saved();
-  names.LoadPnames(environment);
+  names.LoadPnames(game);
   EXPECT_EQ(names.name(0), "ab");
   EXPECT_EQ(names.name(1), "next");
 }
@@ -149,7 +149,7 @@ TEST_F(PilotNamesFile, DamagedFileGivesTheNamesThatCanBeRead) {
     Names expected = test.first;
     expected.resize(30);
     load(test.bytes);
-    EXPECT_EQ(names.PNameList.items, expected);
+    EXPECT_EQ(names.PNameList, expected);
   }
 }
 
@@ -169,12 +169,12 @@ TEST_F(PilotNamesFile, FieldsOf32768OrMoreAreAnOverflowThatNamesFileAndValue) {
   };
   for (const Case& test : cases) {
     SCOPED_TRACE(test.what);
-    names.PNameList.items = {"kept"};
+    names.PNameList = {"kept"};
     const std::string report = error_of([&] { load(test.bytes); });
     EXPECT_NE(report.find("pnames.str"), std::string::npos) << report;
     EXPECT_NE(report.find(test.offset), std::string::npos) << report;
     EXPECT_NE(report.find("overflow: " + std::string(test.value)), std::string::npos) << report;
-    EXPECT_EQ(names.PNameList.items, Names{"kept"});
+    EXPECT_EQ(names.PNameList, Names{"kept"});
   }
 }
 
@@ -187,11 +187,11 @@ TEST_F(PilotNamesFile, LargestFieldsThatFitAreRead) {
 
 TEST_F(PilotNamesFile, NamesTooLongForTheLengthFieldAreAnOverflowAndTheOldFileStays) {
   folder.write("pnames.str", "old");
-  names.PNameList.items = {std::string(32767 - 150, 'n')};
+  names.PNameList = {std::string(32767 - 150, 'n')};
   EXPECT_EQ(saved().substr(0, 2), "\xFF\x7F");
-  names.PNameList.items[1] = "n";
+  names.PNameList[1] = "n";
   const std::string before = folder.read("pnames.str");
-  const std::string report = error_of([&] { names.SavePnames(environment); });
+  const std::string report = error_of([&] { names.SavePnames(game); });
   EXPECT_NE(report.find("overflow: names of 32768 bytes"), std::string::npos) << report;
   EXPECT_EQ(folder.read("pnames.str"), before);
 }

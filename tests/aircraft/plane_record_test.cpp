@@ -5,9 +5,9 @@
 
 #include <algorithm>
 
-#include "core/action_error.h"
-#include "core/text.h"
-#include "support/sample_environment.h"
+#include "base/action_error.h"
+#include "base/text.h"
+#include "support/recording_status.h"
 #include "support/temporary_folder.h"
 
 namespace vorlund {
@@ -29,9 +29,9 @@ TEST(PlaneRecord, TableWithoutUsedRowsHasThirtyTwoLines) {
 
 TEST(PlaneRecord, WritesGroupAndCellsInTheCodePage) {
   PlaneTable table;
-  table.set_flight_model_group("\u00C9t\u00E9 1944");
-  table.G1.rows[1].cells = {"P38H",      "RAF",      "Fran\u00E7ais", "0",   "P38",
-                            "Lightning", "American", "Yes",           "F/B", "75"};
+  table.flight_model_group = "\u00C9t\u00E9 1944";
+  table.rows[1].cells = {"P38H",      "RAF",      "Fran\u00E7ais", "0",   "P38",
+                         "Lightning", "American", "Yes",           "F/B", "75"};
   const std::string bytes = compose_plane_set(table);
   EXPECT_EQ(bytes.substr(0, bytes.find("P38J")), "\xC9t\xE9 1944\r\n" + kHeaderLine +
                                                      "P38H\tRAF\tFran\xE7"
@@ -40,26 +40,24 @@ TEST(PlaneRecord, WritesGroupAndCellsInTheCodePage) {
 
 TEST(PlaneRecord, WritingAndReadingBackGivesTheSameTable) {
   PlaneTable table;
-  table.set_flight_model_group("1944 \u20AC");
+  table.flight_model_group = "1944 \u20AC";
   for (int row = 1; row < PlaneTable::kRows; row += 3) {
     for (int column = 1; column < PlaneTable::kColumns; ++column) {
-      table.G1.set_cell(row, column, std::to_string(row) + " \u00E9 " + std::to_string(column));
+      table.set_cell(row, column, std::to_string(row) + " \u00E9 " + std::to_string(column));
     }
   }
   PlaneTable read;
   parse_plane_set(compose_plane_set(table), read);
-  EXPECT_EQ(read.flight_model_group(), "1944 \u20AC");
-  EXPECT_EQ(read.Label25[0].caption, "1944 \u20AC");
-  ASSERT_EQ(read.G1.row_count(), 31);
-  for (std::size_t row = 0; row < 31; ++row)
-    EXPECT_EQ(read.G1.rows[row].cells, table.G1.rows[row].cells) << row;
+  EXPECT_EQ(read.flight_model_group, "1944 \u20AC");
+  ASSERT_EQ(read.row_count(), 31);
+  for (std::size_t row = 0; row < 31; ++row) EXPECT_EQ(read.rows[row].cells, table.rows[row].cells) << row;
   EXPECT_EQ(read.shown_slots(), (std::vector<int>{1, 4, 7, 10, 13, 16, 19, 22, 25, 28}));
 }
 
 TEST(PlaneRecord, MissingRowsAreWrittenWithEmptyCells) {
   PlaneTable table;
   table.clear();
-  table.set_flight_model_group("G");
+  table.flight_model_group = "G";
   const std::string bytes = compose_plane_set(table);
   std::string expected = "G\r\n";
   for (int row = 0; row < 31; ++row) expected += "\t\t\t\t\t\t\t\t\t\r\n";
@@ -68,7 +66,7 @@ TEST(PlaneRecord, MissingRowsAreWrittenWithEmptyCells) {
 
 TEST(PlaneRecord, RowsPastTheThirtiethSlotAreNotWritten) {
   PlaneTable table;
-  table.G1.add_row({"more"});
+  table.add_row({"more"});
   EXPECT_EQ(compose_plane_set(table), compose_plane_set(PlaneTable()));
 }
 
@@ -103,10 +101,10 @@ TEST(PlaneRecord, ReadsWhatAHandLeft) {
     SCOPED_TRACE(test.what);
     PlaneTable table;
     parse_plane_set(test.bytes, table);
-    EXPECT_EQ(table.flight_model_group(), test.group);
-    ASSERT_EQ(table.G1.row_count(), test.rows);
-    EXPECT_EQ(table.G1.cell(test.rows - 1, PlaneTable::kFuel), test.last_cell);
-    EXPECT_EQ(table.G1.row, 0);
+    EXPECT_EQ(table.flight_model_group, test.group);
+    ASSERT_EQ(table.row_count(), test.rows);
+    EXPECT_EQ(table.cell(test.rows - 1, PlaneTable::kFuel), test.last_cell);
+    EXPECT_EQ(table.current_row, 0);
   }
 }
 
@@ -116,8 +114,8 @@ TEST(PlaneRecord, OverlongRecordsAndLinesAreRead) {
   bytes += std::string(3'000'000, 'x');
   PlaneTable table;
   parse_plane_set(bytes, table);
-  EXPECT_EQ(table.G1.row_count(), 100002);
-  EXPECT_EQ(table.G1.cell(100001, 0).size(), 3'000'000u);
+  EXPECT_EQ(table.row_count(), 100002);
+  EXPECT_EQ(table.cell(100001, 0).size(), 3'000'000u);
   EXPECT_EQ(table.shown_slots().size(), 30u);
 }
 
@@ -125,21 +123,23 @@ TEST(PlaneRecord, IsReplacedWholeInTheStore) {
   const test::TemporaryFolder folder;
   folder.write("~Vorlund/CurrentPlaneSet.txt", std::string(100'000, 'o'));
   const auto files = make_platform_file_system();
-  test::SampleEnvironment environment(*files, folder.path());
+  const GameFolder game{*files, folder.path()};
+  test::RecordingStatus status;
   PlaneTable table;
-  table.set_flight_model_group("1944");
-  SavePS(environment, table);
+  table.flight_model_group = "1944";
+  SavePS(game, table);
   EXPECT_EQ(folder.read("~Vorlund/CurrentPlaneSet.txt"), compose_plane_set(table));
   PlaneTable read;
   read_plane_set(*files, folder.path("~Vorlund\\CurrentPlaneSet.txt"), read);
-  EXPECT_EQ(read.flight_model_group(), "1944");
+  EXPECT_EQ(read.flight_model_group, "1944");
 }
 
 TEST(PlaneRecord, StoreThatDoesNotExistIsAnError) {
   const test::TemporaryFolder folder;
   const auto files = make_platform_file_system();
-  test::SampleEnvironment environment(*files, folder.path());
-  EXPECT_THROW(SavePS(environment, PlaneTable()), ActionError);
+  const GameFolder game{*files, folder.path()};
+  test::RecordingStatus status;
+  EXPECT_THROW(SavePS(game, PlaneTable()), ActionError);
 }
 
 }  // namespace

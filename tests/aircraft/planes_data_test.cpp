@@ -2,8 +2,8 @@
 #include "aircraft/planes_data.h"
 
 #include "aircraft/aircraft_fixture.h"
-#include "aircraft/number_text.h"
-#include "core/text.h"
+#include "base/number_text.h"
+#include "base/text.h"
 
 namespace vorlund {
 namespace {
@@ -31,18 +31,26 @@ class PlanesData : public test::AircraftTest {
  protected:
   PlanesData() { fill_row(1, {"0", "Spit9", "Spitfire", "Allied", "No", "Fighter", "100"}); }
 
+  /// Writes the record of a row; true where its flight model was found.
+  bool write(int row) {
+    PatchedFile planes_file(*files, folder.path("Planes.dat"));
+    bool written = false;
+    planes_file.patch([&] { written = OawWrite(game, table, row, planes_file); });
+    return written;
+  }
+
   std::string planes() const { return folder.read("Planes.dat"); }
 
   /// Writes row 1 with these values and gives one byte of record 0, counted from 0 in the record.
   int byte_written(const Values& values, std::size_t byte) {
     model("Spit9/spit.oaw", values.text());
     folder.write("Planes.dat", std::string(220, '\xEE'));
-    OawWrite(environment, table, 1, selected);
+    write(1);
     return static_cast<unsigned char>(planes().at(4 + byte));
   }
 
   std::string error(int row = 1) {
-    return error_of([&] { OawWrite(environment, table, row, selected); });
+    return error_of([&] { write(row); });
   }
 };
 
@@ -54,13 +62,13 @@ TEST_F(PlanesData, WritesExactlyTheFirst168BytesOfItsRecord) {
   };
   const Case cases[] = {{"0", 4, 171}, {"7", 1516, 1683}, {"29", 6268, 6435}, {"30", 6484, 6651}};
   model("Spit9/spit.oaw", Values("9").text());
-  table.G1.set_cell(1, PlaneTable::kSide, "German");
-  table.G1.set_cell(1, PlaneTable::kRole, "");
+  table.set_cell(1, PlaneTable::kSide, "German");
+  table.set_cell(1, PlaneTable::kRole, "");
   for (const Case& test : cases) {
     SCOPED_TRACE(test.number);
     folder.write("Planes.dat", std::string(7000, '\xEE'));
-    table.G1.set_cell(1, PlaneTable::kRecordNumber, test.number);
-    EXPECT_EQ(OawWrite(environment, table, 1, selected), OawOutcome::kWritten);
+    table.set_cell(1, PlaneTable::kRecordNumber, test.number);
+    EXPECT_EQ(write(1), true);
     std::string expected(7000, '\xEE');
     expected.replace(test.first, 168, std::string(168, '\x09'));
     expected[test.first + 4] = '\x88';  // 9 + 128, low three bits replaced by 0
@@ -72,10 +80,10 @@ TEST_F(PlanesData, WritesExactlyTheFirst168BytesOfItsRecord) {
 
 TEST_F(PlanesData, CreatesAMissingFileZeroFilledBeforeTheRecord) {
   model("Spit9/spit.oaw", Values("1").text());
-  table.G1.set_cell(1, PlaneTable::kRecordNumber, "1");
-  table.G1.set_cell(1, PlaneTable::kFlyable, "");
-  table.G1.set_cell(1, PlaneTable::kRole, "");
-  OawWrite(environment, table, 1, selected);
+  table.set_cell(1, PlaneTable::kRecordNumber, "1");
+  table.set_cell(1, PlaneTable::kFlyable, "");
+  table.set_cell(1, PlaneTable::kRole, "");
+  write(1);
   std::string expected(220, '\0');
   expected += "\1\1\1\1\0\3"s + std::string(158, '\1') + "P38H"s;
   EXPECT_EQ(planes(), expected);
@@ -153,14 +161,14 @@ TEST_F(PlanesData, FuelIsScaledAsOneQuantityOfTwoBytes) {
   };
   for (const Case& test : cases) {
     SCOPED_TRACE(test.low + " "s + test.high + " at " + test.percent);
-    table.G1.set_cell(1, PlaneTable::kFuel, test.percent);
+    table.set_cell(1, PlaneTable::kFuel, test.percent);
     EXPECT_EQ(byte_written(Values().set(37, test.low).set(38, test.high), 36), test.expected_low);
     EXPECT_EQ(static_cast<unsigned char>(planes()[4 + 37]), test.expected_high);
   }
 }
 
 TEST_F(PlanesData, FuelPastSixteenBitsIsAnOverflowAfterItsLowByte) {
-  table.G1.set_cell(1, PlaneTable::kFuel, "101");
+  table.set_cell(1, PlaneTable::kFuel, "101");
   model("Spit9/spit.oaw", Values().set(37, "255").set(38, "255").text());
   const std::string report = error();
   EXPECT_NE(report.find("spit.oaw"), std::string::npos) << report;
@@ -172,7 +180,7 @@ TEST_F(PlanesData, FuelPastSixteenBitsIsAnOverflowAfterItsLowByte) {
 }
 
 TEST_F(PlanesData, NegativeFuelIsAnOverflow) {
-  table.G1.set_cell(1, PlaneTable::kFuel, "-50");
+  table.set_cell(1, PlaneTable::kFuel, "-50");
   model("Spit9/spit.oaw", Values().set(37, "16").set(38, "39").text());
   EXPECT_NE(error().find("overflow: -5000"), std::string::npos);
 }
@@ -180,7 +188,7 @@ TEST_F(PlanesData, NegativeFuelIsAnOverflow) {
 TEST_F(PlanesData, FuelThatSixteenBitsCannotHoldEndsBeforeAnythingIsWritten) {
   model("Spit9/spit.oaw", Values().text());
   for (const std::string fuel : {"32768", "-32769"}) {
-    table.G1.set_cell(1, PlaneTable::kFuel, fuel);
+    table.set_cell(1, PlaneTable::kFuel, fuel);
     EXPECT_NE(error().find("overflow: \"" + fuel + "\""), std::string::npos);
     EXPECT_FALSE(folder.has("Planes.dat"));
   }
@@ -234,7 +242,7 @@ TEST_F(PlanesData, LinesAfterTheLastValueHaveNoEffect) {
   const std::string expected = planes();
   folder.write("Planes.dat", std::string(220, '\xEE'));
   model("Spit9/spit.oaw", Values("1").text() + "9999\r\nanything\r\n");
-  OawWrite(environment, table, 1, selected);
+  write(1);
   EXPECT_EQ(planes(), expected);
 }
 
@@ -244,7 +252,7 @@ TEST_F(PlanesData, ShortSlotCodeIsAnInvalidArgumentAfterItsCharacters) {
     SCOPED_TRACE(length);
     folder.write("Planes.dat", std::string(220, '\xEE'));
     const std::string code = std::string("ABCD").substr(0, length);
-    table.G1.set_cell(1, PlaneTable::kSlot, code);
+    table.set_cell(1, PlaneTable::kSlot, code);
     const std::string report = error();
     EXPECT_NE(report.find("column Slot of row 1"), std::string::npos) << report;
     EXPECT_NE(report.find("invalid argument: \"" + code + "\" is shorter than 4 characters"),
@@ -256,8 +264,8 @@ TEST_F(PlanesData, ShortSlotCodeIsAnInvalidArgumentAfterItsCharacters) {
 
 TEST_F(PlanesData, SlotCodeIsWrittenInTheCodePageFourCharactersAtMost) {
   model("Spit9/spit.oaw", Values("1").text());
-  table.G1.set_cell(1, PlaneTable::kSlot, "\u00E9\u20ACcdefgh");
-  OawWrite(environment, table, 1, selected);
+  table.set_cell(1, PlaneTable::kSlot, "\u00E9\u20ACcdefgh");
+  write(1);
   EXPECT_EQ(planes().substr(4 + 164),
             "\xE9\x80"
             "cd");
@@ -266,7 +274,7 @@ TEST_F(PlanesData, SlotCodeIsWrittenInTheCodePageFourCharactersAtMost) {
 TEST_F(PlanesData, NegativeRecordNumberIsABadPosition) {
   model("Spit9/spit.oaw", Values("1").text());
   folder.write("Planes.dat", "untouched");
-  table.G1.set_cell(1, PlaneTable::kRecordNumber, "-1");
+  table.set_cell(1, PlaneTable::kRecordNumber, "-1");
   const std::string report = error();
   EXPECT_NE(report.find("Planes.dat"), std::string::npos) << report;
   EXPECT_NE(report.find("bad position -211"), std::string::npos) << report;
@@ -276,41 +284,40 @@ TEST_F(PlanesData, NegativeRecordNumberIsABadPosition) {
 
 TEST_F(PlanesData, HugeRecordNumberIsAnOverflow) {
   model("Spit9/spit.oaw", Values("1").text());
-  table.G1.set_cell(1, PlaneTable::kRecordNumber, "99999999");
+  table.set_cell(1, PlaneTable::kRecordNumber, "99999999");
   EXPECT_NE(error().find("overflow: \"99999999\""), std::string::npos);
   EXPECT_FALSE(folder.has("Planes.dat"));
 }
 
 TEST_F(PlanesData, FolderWithoutAFlightModelIsPassedOverButStaysSelected) {
   folder.make_folder("~Vorlund/FlightModels/1944/Spit9");
-  EXPECT_EQ(OawWrite(environment, table, 1, selected), OawOutcome::kNoFlightModel);
+  EXPECT_EQ(write(1), false);
   EXPECT_FALSE(folder.has("Planes.dat"));
-  EXPECT_EQ(selected.path, folder.path("~Vorlund\\FlightModels\\1944\\Spit9"));
-  table.G1.set_cell(1, PlaneTable::kScriptFolder, "Missing");
-  EXPECT_EQ(OawWrite(environment, table, 1, selected), OawOutcome::kNoFlightModel);
+  table.set_cell(1, PlaneTable::kScriptFolder, "Missing");
+  EXPECT_EQ(write(1), false);
 }
 
 TEST_F(PlanesData, TakesTheFirstOfSeveralFilesWithoutRegardToCase) {
   model("Spit9/b.oaw", Values("2").text());
   model("Spit9/A.OAW", Values("1").text());
-  OawWrite(environment, table, 1, selected);
+  write(1);
   EXPECT_EQ(planes()[4], '\1');
 }
 
 TEST_F(PlanesData, EmptyScriptFolderMeansTheGroupItself) {
   model("group.oaw", Values("6").text());
-  table.G1.set_cell(1, PlaneTable::kScriptFolder, "");
-  EXPECT_EQ(OawWrite(environment, table, 1, selected), OawOutcome::kWritten);
+  table.set_cell(1, PlaneTable::kScriptFolder, "");
+  EXPECT_EQ(write(1), true);
   EXPECT_EQ(planes()[4], '\6');
 }
 
 TEST_F(PlanesData, AnEmptyGroupIsTheFolderOfAllGroups) {
   folder.write("~Vorlund/FlightModels/stray.oaw", Values("6").text());
   folder.write("~Vorlund/FlightModels/Spit9/spit.oaw", Values("7").text());
-  table.set_flight_model_group("");
+  table.flight_model_group = "";
   for (const auto& [name, byte] : {std::pair("", '\6'), std::pair("Spit9", '\7')}) {
-    table.G1.set_cell(1, PlaneTable::kScriptFolder, name);
-    EXPECT_EQ(OawWrite(environment, table, 1, selected), OawOutcome::kWritten) << name;
+    table.set_cell(1, PlaneTable::kScriptFolder, name);
+    EXPECT_EQ(write(1), true) << name;
     EXPECT_EQ(folder.read("Planes.dat")[4], byte) << name;
   }
 }

@@ -8,10 +8,10 @@
 #include <string>
 #include <vector>
 
-#include "core/action_error.h"
+#include "base/action_error.h"
 #include "gamesets/clean_up.h"
 #include "support/hostile_names.h"
-#include "support/sample_environment.h"
+#include "support/recording_status.h"
 #include "support/temporary_folder.h"
 
 namespace vorlund {
@@ -42,12 +42,9 @@ class HostileCareers : public ::testing::Test {
   /// True when the clean-up came to its end.
   bool clean(const std::vector<std::pair<std::string, std::string>>& rows) {
     GameTable table;
-    for (const auto& [group, name] : rows) table.G2.add_row({group, name});
-    FileList savedata;
-    savedata.path = folder.path("game\\Savedata");
-    savedata.pattern = "Default*.msn";
+    for (const auto& [group, name] : rows) table.add_row({group, name});
     try {
-      clean_game_directory(environment, table, savedata);
+      clean_game_directory(game_folder, status, table);
       return true;
     } catch (const ActionError&) {
       return false;
@@ -78,7 +75,8 @@ class HostileCareers : public ::testing::Test {
 
   test::TemporaryFolder folder;
   std::unique_ptr<FileSystem> files = make_platform_file_system();
-  test::SampleEnvironment environment{*files, folder.path("game")};
+  GameFolder game_folder{*files, folder.path("game")};
+  test::RecordingStatus status;
 };
 
 TEST_F(HostileCareers, RowsWithoutAFolderEndTheCleanUpBeforeAnythingIsTouched) {

@@ -7,8 +7,8 @@
 #include <utility>
 #include <vector>
 
-#include "core/action_error.h"
-#include "support/sample_environment.h"
+#include "base/action_error.h"
+#include "support/recording_status.h"
 #include "support/temporary_folder.h"
 
 namespace vorlund {
@@ -19,20 +19,18 @@ class CleanUpFiles : public ::testing::Test {
   CleanUpFiles() {
     folder.make_folder("Savedata");
     folder.make_folder("~Vorlund");
-    savedata.path = folder.path("Savedata");
-    savedata.pattern = "Default*.msn";
   }
 
   CleanUpSummary clean(const std::vector<std::pair<std::string, std::string>>& rows) {
     GameTable table;
-    for (const auto& [group, name] : rows) table.G2.add_row({group, name});
-    return clean_game_directory(environment, table, savedata);
+    for (const auto& [group, name] : rows) table.add_row({group, name});
+    return clean_game_directory(game, status, table);
   }
 
   test::TemporaryFolder folder;
   std::unique_ptr<FileSystem> files = make_platform_file_system();
-  test::SampleEnvironment environment{*files, folder.path()};
-  FileList savedata;
+  GameFolder game{*files, folder.path()};
+  test::RecordingStatus status;
 };
 
 TEST_F(CleanUpFiles, MoveCareerSavesIntoTheFolderOfTheLastCareersRow) {
@@ -105,7 +103,7 @@ TEST_F(CleanUpFiles, AreLeftAloneInAFolderThatHasNoStore) {
   const test::TemporaryFolder home;
   home.write("letter.txt", "x");
   home.write("photo.jpg", "x");
-  environment.directory.Label16.caption = home.path();
+  game.directory = home.path();
   try {
     clean({});
     ADD_FAILURE() << "no error";
@@ -123,30 +121,21 @@ TEST_F(CleanUpFiles, AreThoseOfTheGameDirectoryOfTheMoment) {
   other.write("Savedata/Default2.msn", "x");
   folder.write("Savedata/c1.sve", "of the first");
   folder.write("Savedata/Default1.msn", "x");
-  environment.directory.Label16.caption = other.path();
+  game.directory = other.path();
   EXPECT_EQ(clean({{"Careers", "Camp1"}}).careers, 1u);
   EXPECT_EQ(other.read("~Vorlund/GameStore/Careers/Camp1/c2.sve"), "of the other");
-  EXPECT_EQ(delete_listed_missions(environment, savedata), 1u);
+  EXPECT_EQ(delete_default_missions(game), 1u);
   EXPECT_TRUE(other.names("Savedata").empty());
   EXPECT_EQ(folder.names("Savedata"), (std::vector<std::string>{"Default1.msn", "c1.sve"}));
-}
-
-TEST_F(CleanUpFiles, RestoreTheListingOfSavedata) {
-  folder.make_folder("~Vorlund/GameStore/Careers/Camp1");
-  folder.write("Savedata/c1.sve", "career");
-  folder.write("Savedata/DEFAULT1.MSN", "mission");
-  clean({{"Careers", "Camp1"}});
-  EXPECT_EQ(savedata.pattern, "Default*.msn");
-  EXPECT_EQ(savedata.names, (std::vector<std::string>{"DEFAULT1.MSN"}));
 }
 
 TEST_F(CleanUpFiles, DeleteTheDefaultMissions) {
   for (const char* name : {"DEFAULT1.MSN", "default.msn", "Other.msn", "Default.sve"}) {
     folder.write(std::string("Savedata/") + name, "x");
   }
-  EXPECT_EQ(delete_listed_missions(environment, savedata), 2U);
+  EXPECT_EQ(delete_default_missions(game), 2U);
   EXPECT_EQ(folder.names("Savedata"), (std::vector<std::string>{"Default.sve", "Other.msn"}));
-  EXPECT_EQ(delete_listed_missions(environment, savedata), 0U);
+  EXPECT_EQ(delete_default_missions(game), 0U);
 }
 
 }  // namespace

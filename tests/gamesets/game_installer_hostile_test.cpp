@@ -10,7 +10,7 @@
 #include "gamesets/game_record.h"
 #include "support/hostile_names.h"
 #include "support/left_over.h"
-#include "support/sample_environment.h"
+#include "support/recording_status.h"
 #include "support/temporary_folder.h"
 
 namespace vorlund {
@@ -35,14 +35,15 @@ class HostileRows : public ::testing::Test {
 
   GameSetSummary install(const std::string& group, const std::string& name) {
     GameTable table;
-    table.G2.add_row({group, name});
+    table.add_row({group, name});
     table.g2update();
-    return install_game_set(environment, table);
+    return install_game_set(game, status, table);
   }
 
   test::TemporaryFolder folder;
   std::unique_ptr<FileSystem> files = make_platform_file_system();
-  test::SampleEnvironment environment{*files, folder.path("game")};
+  GameFolder game{*files, folder.path("game")};
+  test::RecordingStatus status;
 };
 
 TEST_F(HostileRows, AreShownButPassedOver) {
@@ -69,8 +70,8 @@ TEST_F(HostileRows, OfARecordAreReadAndInstalledWithoutHarm) {
   const auto before = folder.tree();
   GameTable table;
   read_game_set(*files, folder.path("game\\~Vorlund\\CurrentGameSet.txt"), table);
-  EXPECT_GT(table.G2.row_count(), 200);
-  install_game_set(environment, table);
+  EXPECT_GT(table.row_count(), 200);
+  install_game_set(game, status, table);
   auto after = folder.tree();
   // A line that begins with a TAB has no group: its folder is "Set" in the store itself.
   EXPECT_EQ(after.extract("game/bait.dat").mapped(), "bait");
@@ -79,9 +80,9 @@ TEST_F(HostileRows, OfARecordAreReadAndInstalledWithoutHarm) {
 
 TEST_F(HostileRows, AHundredThousandOfThemEnd) {
   GameTable table;
-  for (int row = 0; row < 100'000; ++row) table.G2.add_row({"Set", "..\\..\\" + std::to_string(row)});
+  for (int row = 0; row < 100'000; ++row) table.add_row({"Set", "..\\..\\" + std::to_string(row)});
   table.g2update();
-  EXPECT_EQ(install_game_set(environment, table).missing.size(), 100'000U);
+  EXPECT_EQ(install_game_set(game, status, table).missing.size(), 100'000U);
 }
 
 TEST_F(HostileRows, APatchFarPastTheExecutablesEndStaysInsideTheExecutable) {

@@ -8,8 +8,8 @@
 #include <utility>
 #include <vector>
 
-#include "core/action_error.h"
-#include "support/sample_environment.h"
+#include "base/action_error.h"
+#include "support/recording_status.h"
 #include "support/temporary_folder.h"
 
 namespace vorlund {
@@ -30,9 +30,9 @@ class GameInstaller : public ::testing::Test {
 
   GameSetSummary install(const std::vector<std::pair<std::string, std::string>>& rows) {
     GameTable table;
-    for (const auto& [group, name] : rows) table.G2.add_row({group, name});
+    for (const auto& [group, name] : rows) table.add_row({group, name});
     table.g2update();
-    return install_game_set(environment, table);
+    return install_game_set(game, status, table);
   }
 
   /// The game folder without its store.
@@ -46,7 +46,8 @@ class GameInstaller : public ::testing::Test {
 
   test::TemporaryFolder folder;
   std::unique_ptr<FileSystem> files = make_platform_file_system();
-  test::SampleEnvironment environment{*files, folder.path()};
+  GameFolder game{*files, folder.path()};
+  test::RecordingStatus status;
 };
 
 TEST_F(GameInstaller, SortsFilesIntoTheirFoldersWhateverTheCaseOfTheirNames) {
@@ -98,7 +99,7 @@ TEST_F(GameInstaller, SavedataAndMusicMustExist) {
     const std::string bare_name = name.substr(name.find('\\') + 1);
     bare.write("~Vorlund/GameStore/Sky/Dusk/a.dat", "a");
     bare.write("~Vorlund/GameStore/Sky/Dusk/" + bare_name, "b");
-    environment.directory.Label16.caption = bare.path();
+    game.directory = bare.path();
     try {
       install({{"Sky", "Dusk"}});
       ADD_FAILURE() << "no error";
@@ -255,8 +256,8 @@ TEST_F(GameInstaller, ReportsEveryFileAsItGoesAndNeverGoesBack) {
   store("A/One/A.dat", "a");
   store("B/Two/c.dat", "c");
   install({{"A", "One"}, {"B", "Two"}});
-  EXPECT_EQ(environment.status.files, (std::vector<std::string>{"A.dat", "b.dat", "c.dat"}));
-  EXPECT_EQ(environment.status.fractions, (std::vector<double>{0, 1.0 / 3, 2.0 / 3}));
+  EXPECT_EQ(status.files, (std::vector<std::string>{"A.dat", "b.dat", "c.dat"}));
+  EXPECT_EQ(status.fractions, (std::vector<double>{0, 1.0 / 3, 2.0 / 3}));
 }
 
 TEST_F(GameInstaller, WeighsItsProgressByFilesAndNotByRows) {
@@ -269,7 +270,7 @@ TEST_F(GameInstaller, WeighsItsProgressByFilesAndNotByRows) {
     rows.emplace_back(group, "Set");
   }
   install(rows);
-  const std::vector<double>& fractions = environment.status.fractions;
+  const std::vector<double>& fractions = status.fractions;
   ASSERT_EQ(fractions.size(), 1522U);
   for (std::size_t done = 0; done < fractions.size(); ++done) {
     ASSERT_NEAR(fractions[done], static_cast<double>(done) / 1522, 0.03) << done;

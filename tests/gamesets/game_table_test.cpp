@@ -14,31 +14,30 @@ using Rows = std::vector<std::pair<std::string, std::string>>;
 
 GameTable table_of(const Rows& rows) {
   GameTable table;
-  for (const auto& [group, folder] : rows) table.G2.add_row({group, folder});
+  for (const auto& [group, folder] : rows) table.add_row({group, folder});
   table.g2update();
   return table;
 }
 
 Rows rows_of(const GameTable& table) {
   Rows rows;
-  for (int row = 1; row < table.G2.row_count(); ++row) {
-    rows.emplace_back(table.G2.cell(row, GameTable::kGroup), table.G2.cell(row, GameTable::kFolder));
+  for (int row = 1; row < table.row_count(); ++row) {
+    rows.emplace_back(table.cell(row, GameTable::kGroup), table.cell(row, GameTable::kFolder));
   }
   return rows;
 }
 
 std::vector<bool> hidden_rows(const GameTable& table) {
   std::vector<bool> hidden;
-  for (const Grid::Row& row : table.G2.rows) hidden.push_back(row.hidden);
+  for (const CellTable::Row& row : table.rows) hidden.push_back(row.hidden);
   return hidden;
 }
 
 TEST(GameTable, BeginsWithItsHeaderRowAlone) {
   const GameTable table;
-  ASSERT_EQ(table.G2.row_count(), 1);
-  EXPECT_EQ(table.G2.cell(0, 0), "Folder group");
-  EXPECT_EQ(table.G2.cell(0, 1), "Folder name");
-  EXPECT_EQ(table.G2.column_widths, (std::vector<int>{3000, 5000}));
+  ASSERT_EQ(table.row_count(), 1);
+  EXPECT_EQ(table.cell(0, 0), "Folder group");
+  EXPECT_EQ(table.cell(0, 1), "Folder name");
 }
 
 TEST(GameTable, HidesClearedRowsAndShowsTheOthers) {
@@ -50,17 +49,17 @@ TEST(GameTable, GivesATableWithoutRowsItsHeaderBack) {
   GameTable table;
   table.clear();
   table.g2update();
-  ASSERT_EQ(table.G2.row_count(), 1);
-  EXPECT_EQ(table.G2.cell(0, 1), "Folder name");
+  ASSERT_EQ(table.row_count(), 1);
+  EXPECT_EQ(table.cell(0, 1), "Folder name");
 }
 
 TEST(GameTable, ReplacesWhateverTextsTheHeaderRowHeld) {
   GameTable table;
   table.clear();
-  table.G2.add_row({"x", ""});
+  table.add_row({"x", ""});
   table.g2update();
-  EXPECT_EQ(table.G2.cell(0, 0), "Folder group");
-  EXPECT_FALSE(table.G2.rows[0].hidden);
+  EXPECT_EQ(table.cell(0, 0), "Folder group");
+  EXPECT_FALSE(table.rows[0].hidden);
 }
 
 TEST(GameTable, CommandsDoNothingToATableOfTheHeaderAlone) {
@@ -68,8 +67,8 @@ TEST(GameTable, CommandsDoNothingToATableOfTheHeaderAlone) {
   table.select(0);
   table.clear_current("");
   table.move_current_to_end();
-  EXPECT_EQ(table.G2.row_count(), 1);
-  EXPECT_EQ(table.G2.cell(0, 0), "Folder group");
+  EXPECT_EQ(table.row_count(), 1);
+  EXPECT_EQ(table.cell(0, 0), "Folder group");
 }
 
 TEST(GameTable, CommandsDoNothingWithoutASelectedRow) {
@@ -84,7 +83,7 @@ TEST(GameTable, TakesARowThatIsNotThereAsNoSelection) {
   GameTable table = table_of({{"Scenery", "Winter"}});
   for (const int row : {-1, 2, 1000}) {
     table.select(row);
-    EXPECT_EQ(table.G2.row, 0) << row;
+    EXPECT_EQ(table.current_row, 0) << row;
   }
 }
 
@@ -114,7 +113,7 @@ TEST(GameTable, AClearedRowStaysCurrentSoThatASecondClickClearsNothingElse) {
   GameTable table = table_of({{"A", "1"}, {"B", "2"}, {"D", "4"}});
   table.select(2);
   table.clear_current("Z");
-  EXPECT_EQ(table.G2.row, 2);
+  EXPECT_EQ(table.current_row, 2);
   table.clear_current("Z");
   EXPECT_EQ(rows_of(table), (Rows{{"A", "1"}, {"B", ""}, {"D", "4"}}));
 }
@@ -123,7 +122,7 @@ TEST(GameTable, AfterRemovingARowNoneIsCurrentSoThatASecondClickRemovesNoOther) 
   GameTable table = table_of({{"Z", "1"}, {"Z", "2"}, {"Z", "3"}});
   table.select(2);
   table.clear_current("Z");
-  EXPECT_EQ(table.G2.row, 0);
+  EXPECT_EQ(table.current_row, 0);
   table.clear_current("Z");
   EXPECT_EQ(rows_of(table), (Rows{{"Z", "1"}, {"Z", "3"}}));
 }
@@ -143,7 +142,7 @@ TEST(GameTable, MovesTheCurrentRowBehindAllOthersAndKeepsItCurrent) {
   table.move_current_to_end();
   EXPECT_EQ(rows_of(table), (Rows{{"B", "2"}, {"C", ""}, {"A", "1"}}));
   EXPECT_EQ(hidden_rows(table), (std::vector<bool>{false, false, true, false}));
-  EXPECT_EQ(table.G2.row, 3);
+  EXPECT_EQ(table.current_row, 3);
 }
 
 TEST(GameTable, MovingTheLastRowLeavesTheOrder) {
@@ -151,7 +150,7 @@ TEST(GameTable, MovingTheLastRowLeavesTheOrder) {
   table.select(2);
   table.move_current_to_end();
   EXPECT_EQ(rows_of(table), (Rows{{"A", "1"}, {"B", "2"}}));
-  EXPECT_EQ(table.G2.row, 2);
+  EXPECT_EQ(table.current_row, 2);
 }
 
 }  // namespace

@@ -9,8 +9,8 @@
 #include <algorithm>
 #include <string>
 
-#include "core/action_error.h"
-#include "support/sample_environment.h"
+#include "base/action_error.h"
+#include "support/recording_status.h"
 #include "support/temporary_folder.h"
 #include "support/text_reader.h"
 
@@ -100,14 +100,15 @@ TEST(LoaderPatch, TakesAPatchFileOfAnyLengthRecordByRecord) {
 TEST(LoaderPatch, AnExecutableThatDoesNotFitIntoMemoryIsAnErrorThatNamesItAndStays) {
   const test::TemporaryFolder folder;
   const auto files = make_platform_file_system();
-  test::SampleEnvironment environment(*files, folder.path());
+  const GameFolder game{*files, folder.path()};
+  test::RecordingStatus status;
   constexpr off_t kTooMuch = off_t{8} << 40;
   folder.write("eaw.exe", "MZ");
   if (::truncate((folder.path() + "/eaw.exe").c_str(), kTooMuch) != 0)
     GTEST_SKIP() << "no such large files here";
   folder.write("fix.LDR", "\0\0\0\0\0\0!"s);
   try {
-    install_loader_patch(environment, folder.path("fix.LDR"));
+    install_loader_patch(game, folder.path("fix.LDR"));
     FAIL() << "it was patched";
   } catch (const ActionError& error) {
     EXPECT_EQ(error.path(), folder.path("eaw.exe"));

@@ -4,7 +4,7 @@
 #include <filesystem>
 #include <string_view>
 
-#include "core/file_system.h"
+#include "disk/file_system.h"
 
 namespace vorlund::test {
 

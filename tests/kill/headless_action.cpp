@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "kill/marks.h"
-#include "ui/form1.h"
+#include "panes/form1.h"
 
 int main(int argc, char** argv) {
   using namespace vorlund;
@@ -19,9 +19,9 @@ int main(int argc, char** argv) {
     form.WhatsLoaded_Click();
     test::mark(test::kActionBegins);
     if (action == "install") {
-      form.game.GameLoad_Click();
+      form.GameLoad_Click();
     } else if (action == "install-aircraft") {
-      form.plane.Label8_Click();
+      form.Label8_Click();
     } else {
       form.CleanUp();
     }

@@ -9,7 +9,7 @@
 #include <map>
 #include <set>
 
-#include "core/file_system.h"
+#include "disk/file_system.h"
 #include "kill/traced_program.h"
 #include "kill/watched_calls.h"
 #include "support/temporary_folder.h"

@@ -8,8 +8,8 @@
 
 #include "hand.h"
 #include "kill/marks.h"
-#include "ui/window/application.h"
-#include "ui/window/main_window.h"
+#include "window/application.h"
+#include "window/main_window.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 
 #include <utility>
 
-#include "core/action_error.h"
+#include "base/action_error.h"
 #include "support/left_over.h"
 
 namespace vorlund::test {

@@ -1,7 +1,7 @@
 // The names: ways out of a folder, devices, wildcards, and bytes that no name should hold.
 #include "support/hostile_names.h"
 
-#include "core/plain_name.h"
+#include "base/plain_name.h"
 
 namespace vorlund::test {
 

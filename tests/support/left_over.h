@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "core/process_number.h"
+#include "disk/process_number.h"
 
 namespace vorlund::test {
 

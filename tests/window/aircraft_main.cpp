@@ -3,7 +3,7 @@
 
 #include <QApplication>
 
-#include "ui/window/theme.h"
+#include "window/theme.h"
 
 int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);

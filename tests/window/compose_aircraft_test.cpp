@@ -29,7 +29,7 @@ class ComposeAircraft : public AircraftWindow {
  protected:
   /// Index of a record's flight model in `List2`, which is sorted by name.
   int flight_model_index(int record) {
-    const auto& items = form().lists.List2.items;
+    const auto& items = form().plane.List2.items;
     const auto found = std::find(items.begin(), items.end(), flight_model_name(record));
     EXPECT_NE(found, items.end()) << flight_model_name(record);
     return static_cast<int>(found - items.begin());

@@ -7,8 +7,8 @@
 #include <cstdio>
 #include <string_view>
 
-#include "ui/window/application.h"
-#include "ui/window/main_window.h"
+#include "window/application.h"
+#include "window/main_window.h"
 
 namespace {
 

@@ -9,7 +9,7 @@
 #include <locale>
 #include <stdexcept>
 
-#include "ui/window/theme.h"
+#include "window/theme.h"
 
 #ifdef __SANITIZE_ADDRESS__
 /// The C library itself never frees the locale path that it takes from the environment.

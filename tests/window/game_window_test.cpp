@@ -6,7 +6,7 @@
 #include <QScrollBar>
 #include <QtTest/QTest>
 
-#include "ui/window/action_label.h"
+#include "window/action_label.h"
 #include "window/aircraft_window.h"
 
 namespace vorlund::test {
@@ -30,7 +30,7 @@ class GameWindow : public AircraftWindow {
     folder.write("~Vorlund/GameStore/" + name, bytes);
   }
 
-  const Grid& games() { return form().game.table.G2; }
+  const CellTable& games() { return form().game.G2; }
 
   /// Name of the group or selection label with that caption.
   QString label_of(const char* array, const QString& caption) {
@@ -164,9 +164,9 @@ TEST_F(GameWindow, ArrowKeysMoveTheCurrentRow) {
   click("WhatsLoaded");
   click_row(2);
   press_key("G2", Qt::Key_Down);
-  EXPECT_EQ(games().row, 3);
+  EXPECT_EQ(games().current_row, 3);
   press_key("G2", Qt::Key_Up);
-  EXPECT_EQ(games().row, 2);
+  EXPECT_EQ(games().current_row, 2);
 }
 
 TEST_F(GameWindow, FiveHundredGroupsAndFoldersStayReachable) {
@@ -195,7 +195,7 @@ TEST_F(GameWindow, ATableOfAHundredThousandRowsIsShownAndScrolled) {
   restart();
   click("WhatsLoaded");
   click_row(100'000);
-  EXPECT_EQ(games().row, 100'000);
+  EXPECT_EQ(games().current_row, 100'000);
 }
 
 TEST_F(GameWindow, DamagedPicturesAreNoReasonToEnd) {
@@ -214,15 +214,15 @@ TEST_F(GameWindow, DamagedPicturesAreNoReasonToEnd) {
 TEST_F(GameWindow, TheDirectoryIsChangedWithADoubleClick) {
   folder.make_folder("Music");
   restart();
-  form().directory.Label17.visible = true;
-  form().directory.Dir6.visible = true;
+  form().desk.directory.Label17.visible = true;
+  form().desk.directory.Dir6.visible = true;
   window().perform([] {});
   auto* list = static_cast<QListView*>(widget("Dir6"));
   const QModelIndex music = list->model()->match(list->model()->index(0, 0), Qt::DisplayRole, "Music")[0];
   const QPoint centre = list->visualRect(music).center();
   QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, centre);
   QTest::mouseDClick(list->viewport(), Qt::LeftButton, Qt::NoModifier, centre);
-  EXPECT_EQ(form().directory.Label16.caption, folder.path("Music"));
+  EXPECT_EQ(form().desk.directory.Label16.caption, folder.path("Music"));
 }
 
 TEST_F(GameWindow, WorkShowsItsCaptionAndAProgressBarWhileItRuns) {

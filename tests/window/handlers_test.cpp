@@ -100,8 +100,8 @@ class Handlers : public AircraftWindow {
   // Places to start from.
 
   void ask_for_directory() {
-    form().directory.Label17.visible = form().directory.Label16.visible = form().directory.Dir6.visible =
-        true;
+    form().desk.directory.Label17.visible = form().desk.directory.Label16.visible =
+        form().desk.directory.Dir6.visible = true;
     window().perform([] {});
   }
 
@@ -148,8 +148,8 @@ class Handlers : public AircraftWindow {
     click("PictureMenus");
   }
 
-  const Grid& games() {
-    return form().game.table.G2;
+  const CellTable& games() {
+    return form().game.G2;
   }
 
   int start_ = 0;  ///< where a pane stood before it was dragged
@@ -177,7 +177,7 @@ TEST_F(Handlers, OfTheMenu) {
       {{"Label9_MouseUp(0)",
         {},
         clicks("Label9(0)"),
-        [this] { return text("Label2") == "Show Plane Table" && form().lists.List2.items.size() == 30; }},
+        [this] { return text("Label2") == "Show Plane Table" && form().plane.List2.items.size() == 30; }},
        {"Label9_MouseUp(1)", {}, clicks("Label9(1)"), [this] { return text("Label2") == "Show Game Table"; }},
        {"Label9_MouseUp(2)",
         {},
@@ -228,7 +228,7 @@ TEST_F(Handlers, OfTheGamePane) {
   const Step open = [this] { open_game_pane(); };
   check({{"GameLoad_Click", open, clicks("GameLoad"), [this] { return folder.has("boom.snd"); }},
          {"G2_Click", [this] { click("WhatsLoaded"); }, [this] { open_game_pane(); },
-          [this] { return games().row == 1; }},
+          [this] { return games().current_row == 1; }},
          {"Label28_Click", open, clicks("Label28"), [this] { return games().cell(1, 1).empty(); }},
          {"Label29_Click", open, clicks("Label29"), [this] { return games().cell(2, 1) == "Loud"; }},
          {"Label11_Click", open, clicks("Label11"),
@@ -247,7 +247,7 @@ TEST_F(Handlers, OfTheAircraftPane) {
   const Step open = [this] { open_all_slots(); };
   const auto cell = [this](int row, int column) { return table().cell(row, column); };
   check({{"Label8_Click", open, clicks("Label8"), [this] { return folder.has("P38H.flt"); }},
-         {"G1_MouseDown", open, [this] { click_cell(3, 0); }, [this] { return table().row == 3; }},
+         {"G1_MouseDown", open, [this] { click_cell(3, 0); }, [this] { return table().current_row == 3; }},
          {"Label3_Click",
           [this] {
             open_all_slots();
@@ -378,8 +378,6 @@ TEST_F(Handlers, OfTheMenuEditor) {
           [this] { return text("mlen(3)") == "12"; }},
          {"CountryBut_Click", open, clicks("CountryBut(2)"),
           [this] { return form().menu_editor.CountryBut[2].checked; }},
-         {"PNameList_Click", open, clicks_entry("PNameList", 3),
-          [this] { return form().plane.pilot_names.PNameList.selected == 3; }},
          {"PMenFrame_Click", open, clicks_rim("PMenFrame"), [this] { return !sees("PMenFrame"); }}});
 }
 

@@ -29,7 +29,7 @@ TEST_F(Labels, ThatAreFixedTakeTheLeftButtonAlone) {
   folder.write("~Vorlund/CurrentGameSet.txt", "Folder group\tFolder name\r\nSounds\tLoud\r\n");
   restart();
   click("WhatsLoaded");
-  window().perform([this] { form().game.G2_Click(1); });
+  window().perform([this] { form().G2_Click(1); });
   const auto before = folder.tree();
   const QStringList names = fixed_labels();
   for (const char* name : {"GameLoad", "Label8", "Label28", "Label11", "Label10(1)"}) {
@@ -42,7 +42,7 @@ TEST_F(Labels, ThatAreFixedTakeTheLeftButtonAlone) {
       EXPECT_EQ(folder.tree(), before) << name.toStdString();
       EXPECT_TRUE(sees("GameFrame") && sees("Frame1")) << name.toStdString();
       EXPECT_FALSE(sees("SaveFrame") || sees("Frame2")) << name.toStdString();
-      EXPECT_EQ(form().game.table.G2.cell(1, GameTable::kFolder), "Loud") << name.toStdString();
+      EXPECT_EQ(form().game.G2.cell(1, GameTable::kFolder), "Loud") << name.toStdString();
     }
   }
   click("GameLoad");
@@ -94,22 +94,22 @@ TEST_F(Labels, TheStatusLineGrowsWithItsText) {
   restart();
   const auto* status = static_cast<QLabel*>(widget("StatusLine"));
   const int one_line = status->parentWidget()->height();
-  window().perform([this] { form().environment.status.outcome("1\n2\n3\n4\n5\n6\n7"); });
+  window().perform([this] { form().desk.say("1\n2\n3\n4\n5\n6\n7"); });
   EXPECT_GE(status->height(), 7 * status->fontMetrics().height());
   EXPECT_EQ(status->toolTip(), "");
   std::string endless;
   for (int line = 0; line < 100; ++line) endless += "line\n";
-  window().perform([this, &endless] { form().environment.status.outcome(endless); });
+  window().perform([this, &endless] { form().desk.say(endless); });
   EXPECT_LE(status->parentWidget()->height(), window().height() / 2);
   EXPECT_EQ(status->toolTip().toStdString(), endless);
-  window().perform([this] { form().environment.status.outcome("done"); });
+  window().perform([this] { form().desk.say("done"); });
   EXPECT_EQ(status->parentWidget()->height(), one_line);
 }
 
 TEST_F(Labels, TextsFromTheStoreAreShownAsTheyAreInTooltipsToo) {
   restart();
   open_aircraft_pane();
-  window().perform([this] { form().plane.table.G1.set_cell(1, PlaneTable::kPlaneName, "<b>x</b> & y"); });
+  window().perform([this] { form().plane.G1.set_cell(1, PlaneTable::kPlaneName, "<b>x</b> & y"); });
   const QModelIndex cell =
       static_cast<GridView*>(widget("G1"))->grid_model().index(0, PlaneTable::kPlaneName);
   EXPECT_EQ(cell.data(Qt::DisplayRole).toString(), "<b>x</b> & y");
@@ -126,7 +126,7 @@ TEST_F(Labels, APlaneRecordOfEndlessRowsAndCellsIsShown) {
   restart();
   click("WhatsLoaded");
   click_cell(1, PlaneTable::kRegion);
-  EXPECT_EQ(table().row, 1);
+  EXPECT_EQ(table().current_row, 1);
   const auto* view = static_cast<GridView*>(widget("G1"));
   EXPECT_GT(view->columnWidth(PlaneTable::kFuel), view->fontMetrics().horizontalAdvance("Fuel %"));
 }

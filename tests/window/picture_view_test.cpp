@@ -4,7 +4,7 @@
 #include <QBuffer>
 #include <QImage>
 
-#include "ui/window/picture_view.h"
+#include "window/picture_view.h"
 
 namespace vorlund::test {
 namespace {

@@ -5,9 +5,9 @@
 #include <QtTest/QTest>
 #include <algorithm>
 
-#include "ui/window/theme.h"
 #include "window/aircraft_window.h"
 #include "window/made_aircraft_game.h"
+#include "window/theme.h"
 
 namespace vorlund::test {
 namespace {
@@ -23,7 +23,7 @@ class PlaneTableWindow : public AircraftWindow {
   }
 
   int index_of(const std::string& flight_model) {
-    const auto& items = form().lists.List2.items;
+    const auto& items = form().plane.List2.items;
     return static_cast<int>(std::find(items.begin(), items.end(), flight_model) - items.begin());
   }
 
@@ -47,9 +47,9 @@ TEST_F(PlaneTableWindow, AClickOutsideEditModeOnlyChoosesTheRow) {
   click_cell(1, PlaneTable::kSide);
   click_cell(1, PlaneTable::kFuel);
   EXPECT_EQ(table().rows[1].cells, before);
-  EXPECT_EQ(table().row, 1);
+  EXPECT_EQ(table().current_row, 1);
   click_cell(5, PlaneTable::kSlot);
-  EXPECT_EQ(table().row, 5);
+  EXPECT_EQ(table().current_row, 5);
 }
 
 TEST_F(PlaneTableWindow, AClickInEditModeCyclesTheValue) {
@@ -93,11 +93,11 @@ TEST_F(PlaneTableWindow, KeysMoveTheCurrentCellAndSpaceCyclesIt) {
   click_cell(1, PlaneTable::kPlaneName);
   const auto before = table().rows[1].cells;
   press_key("G1", Qt::Key_Down);
-  EXPECT_EQ(table().row, 2);
+  EXPECT_EQ(table().current_row, 2);
   press_key("G1", Qt::Key_Up);
   press_key("G1", Qt::Key_Right);
-  EXPECT_EQ(table().row, 1);
-  EXPECT_EQ(table().column, PlaneTable::kSide);
+  EXPECT_EQ(table().current_row, 1);
+  EXPECT_EQ(table().current_column, PlaneTable::kSide);
   EXPECT_EQ(table().rows[1].cells, before) << "moving changes nothing";
   press_key("G1", Qt::Key_Space);
   EXPECT_EQ(table().cell(1, PlaneTable::kSide), "German");
@@ -108,7 +108,7 @@ TEST_F(PlaneTableWindow, KeysMoveTheCurrentCellAndSpaceCyclesIt) {
 TEST_F(PlaneTableWindow, AClickOnTheHeaderChangesNoCell) {
   click("Option1(2)");
   std::vector<std::vector<std::string>> before;
-  for (const Grid::Row& row : table().rows) before.push_back(row.cells);
+  for (const CellTable::Row& row : table().rows) before.push_back(row.cells);
   auto* header = view()->horizontalHeader();
   for (int column = 0; column < PlaneTable::kColumns; ++column) {
     const int x = header->sectionViewportPosition(column) + header->sectionSize(column) / 2;

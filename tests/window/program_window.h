@@ -9,9 +9,9 @@
 #include <string>
 
 #include "support/temporary_folder.h"
-#include "ui/window/grid_view.h"
-#include "ui/window/list_view.h"
-#include "ui/window/main_window.h"
+#include "window/grid_view.h"
+#include "window/list_view.h"
+#include "window/main_window.h"
 
 namespace vorlund::test {
 
@@ -27,7 +27,7 @@ class ProgramWindow : public ::testing::Test {
 
   Form1& form() { return window_->form(); }
   MainWindow& window() { return *window_; }
-  const Grid& table() { return form().plane.table.G1; }
+  const CellTable& table() { return form().plane.G1; }
 
   /// The widget of that object name, which must exist.
   QWidget* widget(const QString& name);

@@ -1,0 +1,54 @@
+// Text in memory is UTF-8; these are the few operations on it that the program's rules are made of.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace vorlund {
+
+// Everywhere below, a byte that is no valid UTF-8 counts as one character of its own and is kept as it is,
+// and upper case means one character for one character (ASCII, Latin, Greek and Cyrillic letters), whatever
+// the locale.
+
+/// The text in upper case.
+[[nodiscard]] std::string to_upper(std::string_view text);
+
+/// True when two names are the same without regard to case: the comparison for file and folder names.
+[[nodiscard]] bool same_name(std::string_view a, std::string_view b);
+
+/// Orders names as listings do: ascending without regard to case, names that differ in case alone by their
+/// bytes.
+[[nodiscard]] bool name_less(std::string_view a, std::string_view b);
+
+/// Number of characters.
+[[nodiscard]] std::size_t character_count(std::string_view text);
+
+/// Up to `count` characters from the character at `first`, which is counted from 0; "" past the end.
+[[nodiscard]] std::string characters(std::string_view text, std::size_t first, std::size_t count);
+
+/// The last `count` characters, or the whole text when it is shorter.
+[[nodiscard]] std::string last_characters(std::string_view text, std::size_t count);
+
+/// The text without blanks (character 32) at both ends.
+[[nodiscard]] std::string trimmed(std::string_view text);
+
+/// The text in quotation marks.
+[[nodiscard]] std::string quoted(std::string_view text);
+
+/// The bare name at the end of a path: what follows its last backslash.
+[[nodiscard]] std::string_view bare_name(std::string_view path);
+
+/// The lines of a text file: each ended by CR LF, LF or CR; a last line without an end counts.
+[[nodiscard]] std::vector<std::string_view> split_lines(std::string_view text);
+
+/// The cells of a line: the parts between TAB characters, at least one.
+[[nodiscard]] std::vector<std::string_view> split_cells(std::string_view line);
+
+/// The number at the start of the text, else 0: blanks and TABs before it are skipped, then an optional sign,
+/// digits with an optional point, and an optional exponent are read. The point is a point in every locale. A
+/// number too great for a double is the largest double of its sign, one too small is 0.
+[[nodiscard]] double leading_number(std::string_view text);
+
+}  // namespace vorlund

@@ -1,0 +1,127 @@
+// Character by character work on UTF-8: case, order and parts of a text.
+#include "base/text.h"
+
+#include <algorithm>
+
+#include "base/leading_number.h"
+#include "base/utf8.h"
+
+namespace vorlund {
+
+namespace {
+
+bool continues(std::string_view text, std::size_t at) {
+  return at < text.size() && (static_cast<unsigned char>(text[at]) & 0xC0) == 0x80;
+}
+
+/// Position of the first character that is not spelled by the same bytes in both texts.
+std::size_t common_beginning(std::string_view a, std::string_view b) {
+  const std::size_t shorter = std::min(a.size(), b.size());
+  std::size_t at = 0;
+  while (at < shorter && a[at] == b[at]) ++at;
+  while (at > 0 && (continues(a, at) || continues(b, at))) --at;
+  return at;
+}
+
+/// Compares folded characters; less than, equal to or greater than 0.
+int compare_folded(std::string_view a, std::string_view b) {
+  std::size_t in_a = common_beginning(a, b);
+  std::size_t in_b = in_a;
+  while (in_a < a.size() && in_b < b.size()) {
+    const char32_t left = upper_character(next_character(a, in_a));
+    const char32_t right = upper_character(next_character(b, in_b));
+    if (left != right) return left < right ? -1 : 1;
+  }
+  if (in_a < a.size()) return 1;
+  return in_b < b.size() ? -1 : 0;
+}
+
+/// Position after `count` characters from the position `at`.
+std::size_t advance(std::string_view text, std::size_t at, std::size_t count) {
+  for (; count > 0 && at < text.size(); --count) next_character(text, at);
+  return at;
+}
+
+}  // namespace
+
+std::string to_upper(std::string_view text) {
+  std::string upper;
+  upper.reserve(text.size());
+  for (std::size_t at = 0; at < text.size();) {
+    append_character(upper, upper_character(next_character(text, at)));
+  }
+  return upper;
+}
+
+bool same_name(std::string_view a, std::string_view b) {
+  return compare_folded(a, b) == 0;
+}
+
+bool name_less(std::string_view a, std::string_view b) {
+  const int order = compare_folded(a, b);
+  return order != 0 ? order < 0 : a < b;
+}
+
+std::size_t character_count(std::string_view text) {
+  std::size_t count = 0;
+  for (std::size_t at = 0; at < text.size(); ++count) next_character(text, at);
+  return count;
+}
+
+std::string characters(std::string_view text, std::size_t first, std::size_t count) {
+  const std::size_t begin = advance(text, 0, first);
+  const std::size_t end = advance(text, begin, count);
+  return std::string(text.substr(begin, end - begin));
+}
+
+std::string last_characters(std::string_view text, std::size_t count) {
+  const std::size_t total = character_count(text);
+  return characters(text, total > count ? total - count : 0, count);
+}
+
+std::string trimmed(std::string_view text) {
+  const std::size_t first = text.find_first_not_of(' ');
+  if (first == std::string_view::npos) return {};
+  return std::string(text.substr(first, text.find_last_not_of(' ') - first + 1));
+}
+
+std::string quoted(std::string_view text) {
+  std::string marked = "\"";
+  return marked.append(text).append("\"");
+}
+
+std::string_view bare_name(std::string_view path) {
+  return path.substr(path.rfind('\\') + 1);
+}
+
+std::vector<std::string_view> split_lines(std::string_view text) {
+  std::vector<std::string_view> lines;
+  for (std::size_t at = 0; at < text.size();) {
+    const std::size_t end = text.find_first_of("\r\n", at);
+    if (end == std::string_view::npos) {
+      lines.push_back(text.substr(at));
+      break;
+    }
+    lines.push_back(text.substr(at, end - at));
+    at = end + (text.substr(end, 2) == "\r\n" ? 2 : 1);
+  }
+  return lines;
+}
+
+std::vector<std::string_view> split_cells(std::string_view line) {
+  std::vector<std::string_view> cells;
+  for (;;) {
+    const std::size_t end = line.find('\t');
+    cells.push_back(line.substr(0, end));
+    if (end == std::string_view::npos) return cells;
+    line.remove_prefix(end + 1);
+  }
+}
+
+double leading_number(std::string_view text) {
+  LeadingNumber number;
+  for (const char character : text) number.take(character);
+  return number.value();
+}
+
+}  // namespace vorlund

@@ -1,0 +1,68 @@
+// What the long actions on files have in common: their span, their progress, and copying with its counts.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <exception>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "disk/game_folder.h"
+#include "disk/status.h"
+
+namespace vorlund {
+
+/// A folder's files, listed before their turn so that the progress knows how many there are.
+class ListedAhead {
+ public:
+  /// Lists the files that match. A folder that can't be listed is no error yet.
+  ListedAhead(FileSystem& files, const std::string& folder, std::string_view pattern);
+
+  /// The names, in the order of listings. Where the folder could not be listed that is an error now.
+  const std::vector<std::string>& names() const;
+
+  /// How many names there are, none where the folder could not be listed.
+  std::size_t count() const { return names_.size(); }
+
+ private:
+  std::vector<std::string> names_;
+  std::exception_ptr failure_;
+};
+
+/// One long action on files. While it lives the file system remembers names and stages copies in the store.
+class Copier {
+ public:
+  Copier(const GameFolder& game, Status& status);
+
+  /// So many more steps are ahead; a step is a file as a rule.
+  void expect(std::uint64_t steps) { expected_ += steps; }
+
+  /// The action has reached a file: the next step begins. Tells the observer the share of the steps before
+  /// it, 0 while nothing is expected.
+  void reach(std::string_view file);
+
+  /// Copies a file as FileSystem::copy_file does. A save (".SVE") may stand where the player's own save stood
+  /// a moment ago, so it is flushed to the disk.
+  void copy(const std::string& source, const std::string& target);
+
+  std::uint64_t copied() const { return copied_; }        ///< files written
+  std::uint64_t unchanged() const { return unchanged_; }  ///< files that stood there already, byte for byte
+
+ private:
+  FileSystem& files_;
+  Status& status_;
+  FileSystem::Action action_;
+  std::uint64_t expected_ = 0;
+  std::uint64_t reached_ = 0;
+  std::uint64_t copied_ = 0;
+  std::uint64_t unchanged_ = 0;
+};
+
+/// "1 file", "2 files".
+std::string counted(std::uint64_t count, std::string_view one, std::string_view many);
+
+/// "12 files copied, 3 already in place".
+std::string copies_in_words(const Copier& copier);
+
+}  // namespace vorlund

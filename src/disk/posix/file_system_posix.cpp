@@ -1,0 +1,296 @@
+// The one door to the disk on POSIX systems.
+#include <dirent.h>
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <utility>
+
+#include "base/action_error.h"
+#include "disk/file_system.h"
+#include "posix/posix_content.h"
+#include "posix/posix_folder.h"
+#include "posix/posix_folder_reader.h"
+#include "posix/posix_program.h"
+#include "posix/posix_target.h"
+
+namespace vorlund {
+
+namespace {
+
+class PosixFileSystem final : public FileSystem {
+ public:
+  std::string current_folder() override;
+  bool FileExists(std::string_view path) override;
+  bool FolderExists(std::string_view path) override;
+  bool lies_inside(std::string_view folder, std::string_view root) override;
+  std::vector<FolderEntry> entries(std::string_view folder) override;
+  std::unique_ptr<FileReader> open_file(std::string_view path) override;
+  void replace_file(std::string_view path, std::string_view bytes, Durability durability) override;
+  CopyOutcome copy_file(std::string_view source, std::string_view target, Durability durability) override;
+  void remove_file(std::string_view path) override;
+  void start_program(std::string_view path, std::string_view folder) override;
+
+ protected:
+  void begin_action(Pulse pulse, std::string_view staging) override;
+  void end_action() override;
+
+ private:
+  /// A name in an open folder; no folder, with errno, where the path leads nowhere.
+  struct Place {
+    std::shared_ptr<PosixFolder> folder;
+    std::string name;
+  };
+
+  Place place_of(std::string_view path, EntryKind kind);
+
+  /// Lets `attempt` work on the name as it is spelled, and where there is none, on its other spelling.
+  /// `attempt` returns false, with errno, on failure.
+  template <typename Attempt>
+  bool with_spelling(Place& place, Attempt attempt);
+
+  bool find(std::string_view path, EntryKind kind, struct stat& status);
+  /// Not open, with errno, where the place is no folder.
+  FileHandle open_folder(Place& place);
+  PosixSource open_source(std::string_view path);
+  PosixTarget open_target(std::string_view path, Spelling spelling);
+
+  PosixFolders folders_;
+  PosixContent content_;
+  std::shared_ptr<PosixFolder> staging_;  ///< where copies are written; none: beside their targets
+};
+
+PosixFileSystem::Place PosixFileSystem::place_of(std::string_view path, EntryKind kind) {
+  SplitPath parts = split_path(path);
+  const bool folder_only = !path.empty() && (path.back() == '\\' || path.back() == '/');
+  if (parts.name.empty() || (folder_only && kind == EntryKind::kFile)) {
+    errno = ENOENT;
+    return {};
+  }
+  return {folders_.open(parts.folder), std::move(parts.name)};
+}
+
+template <typename Attempt>
+bool PosixFileSystem::with_spelling(Place& place, Attempt attempt) {
+  if (!place.folder) return false;
+  if (attempt(place.folder->descriptor(), place.name.c_str())) return true;
+  if (errno != ENOENT) return false;
+  auto other = place.folder->other_spelling(place.name);
+  if (!other) return false;
+  place.name = std::move(*other);
+  return attempt(place.folder->descriptor(), place.name.c_str());
+}
+
+bool PosixFileSystem::find(std::string_view path, EntryKind kind, struct stat& status) {
+  Place place = place_of(path, kind);
+  return with_spelling(
+      place, [&status](int folder, const char* name) { return ::fstatat(folder, name, &status, 0) == 0; });
+}
+
+std::string PosixFileSystem::current_folder() {
+  std::string path(256, '\0');
+  while (::getcwd(path.data(), path.size()) == nullptr) {
+    if (errno != ERANGE) throw_system_error("find", "the current folder");
+    path.resize(path.size() * 2);
+  }
+  path.resize(path.find('\0'));
+  return path;
+}
+
+bool PosixFileSystem::FileExists(std::string_view path) {
+  struct stat status {};
+  return find(path, EntryKind::kFile, status) && S_ISREG(status.st_mode);
+}
+
+bool PosixFileSystem::FolderExists(std::string_view path) {
+  struct stat status {};
+  return find(path, EntryKind::kFolder, status) && S_ISDIR(status.st_mode);
+}
+
+FileHandle PosixFileSystem::open_folder(Place& place) {
+  FileHandle handle;
+  with_spelling(place, [&handle](int parent, const char* name) {
+    handle = open_at(parent, name, O_RDONLY | O_DIRECTORY);
+    return handle.is_open();
+  });
+  return handle;
+}
+
+bool same_entry(const struct stat& a, const struct stat& b) {
+  return a.st_dev == b.st_dev && a.st_ino == b.st_ino;
+}
+
+bool PosixFileSystem::lies_inside(std::string_view folder, std::string_view root) {
+  struct stat wanted {};
+  struct stat status {};
+  Place place = place_of(folder, EntryKind::kFolder);
+  FileHandle handle = open_folder(place);
+  if (!handle.is_open() || ::fstat(handle.descriptor(), &status) != 0) return false;
+  if (!find(root, EntryKind::kFolder, wanted)) return false;
+  // Upwards by "..", whatever links led down; the root of the disk is its own parent.
+  while (!same_entry(status, wanted)) {
+    struct stat parent {};
+    handle = open_at(handle.descriptor(), "..", O_RDONLY | O_DIRECTORY);
+    if (!handle.is_open() || ::fstat(handle.descriptor(), &parent) != 0) return false;
+    if (same_entry(status, parent)) return false;
+    status = parent;
+  }
+  return true;
+}
+
+/// Tells files from folders; a link counts as what it leads to. False for what is neither.
+bool kind_of(int folder, const PosixFolderReader::Entry& entry, EntryKind& kind) {
+  auto mode = static_cast<mode_t>(DTTOIF(entry.type));
+  if (entry.type != DT_REG && entry.type != DT_DIR) {
+    struct stat status {};
+    if (::fstatat(folder, entry.name, &status, 0) != 0) return false;
+    mode = status.st_mode;
+  }
+  kind = S_ISDIR(mode) ? EntryKind::kFolder : EntryKind::kFile;
+  return S_ISDIR(mode) || S_ISREG(mode);
+}
+
+std::vector<FolderEntry> PosixFileSystem::entries(std::string_view folder) {
+  constexpr std::string_view kAttempted = "list the folder";
+  Place place = place_of(folder, EntryKind::kFolder);
+  FileHandle handle = open_folder(place);
+  if (!handle.is_open() && (errno == ENOENT || errno == ENOTDIR)) return {};
+  if (!handle.is_open()) throw_system_error(kAttempted, folder);
+
+  std::vector<FolderEntry> found;
+  PosixFolderReader reader(handle.descriptor());
+  while (const auto* entry = reader.next()) {
+    const std::string_view name = entry->name;
+    EntryKind kind{};
+    if (name.find('\\') != std::string_view::npos || !kind_of(handle.descriptor(), *entry, kind)) continue;
+    found.push_back({std::string(name), kind, name.front() == '.'});
+  }
+  if (errno != 0) throw_system_error(kAttempted, folder);
+  return found;
+}
+
+PosixSource PosixFileSystem::open_source(std::string_view path) {
+  PosixSource source;
+  source.path = path;
+  Place place = place_of(path, EntryKind::kFile);
+  const bool opened = with_spelling(place, [&source](int folder, const char* name) {
+    source.handle = open_to_read(folder, name);
+    return source.handle.is_open();
+  });
+  if (!opened || ::fstat(source.handle.descriptor(), &source.status) != 0) throw_system_error("read", path);
+  if (S_ISDIR(source.status.st_mode)) throw_system_error("read", path, EISDIR);
+  if (!S_ISREG(source.status.st_mode)) throw ActionError("read", path, "it is not a regular file");
+  return source;
+}
+
+/// Reads an open file block by block.
+class PosixReader final : public FileReader {
+ public:
+  PosixReader(PosixSource source, std::string_view path) : source_(std::move(source)), path_(path) {}
+
+  std::uint64_t size() const override { return source_.size(); }
+
+  std::size_t read(char* bytes, std::size_t size) override {
+    const ssize_t got = read_up_to(source_.handle.descriptor(), bytes, size);
+    if (got < 0) throw_system_error("read", path_);
+    return static_cast<std::size_t>(got);
+  }
+
+ private:
+  PosixSource source_;
+  std::string path_;
+};
+
+std::unique_ptr<FileReader> PosixFileSystem::open_file(std::string_view path) {
+  return std::make_unique<PosixReader>(open_source(path), path);
+}
+
+PosixTarget PosixFileSystem::open_target(std::string_view path, Spelling spelling) {
+  Place place = place_of(path, EntryKind::kFile);
+  if (!place.folder) throw_system_error("write", path);
+  return PosixTarget(std::move(place.folder), std::move(place.name), path, spelling);
+}
+
+void PosixFileSystem::replace_file(std::string_view path, std::string_view bytes, Durability durability) {
+  PosixTarget target = open_target(path, Spelling::kAsItStands);
+  const int written = target.begin(nullptr);
+  if (!write_all(written, bytes)) throw_system_error("write", path);
+  target.finish(durability);
+}
+
+CopyOutcome PosixFileSystem::copy_file(std::string_view source_path, std::string_view target_path,
+                                       Durability durability) {
+  const PosixSource source = open_source(source_path);
+  PosixTarget target = open_target(target_path, Spelling::kAsAsked);
+  content_.take(source);
+  if (target.readable() >= 0 && content_.known_same(source, target.readable())) {
+    return target.keep(durability) ? CopyOutcome::kUnchanged : CopyOutcome::kWritten;
+  }
+  target.look();
+
+  if (target.readable() >= 0 && target.status().st_size == source.status.st_size) {
+    const bool one_file =
+        target.status().st_dev == source.status.st_dev && target.status().st_ino == source.status.st_ino;
+    if (one_file || content_.same_as(source, target.readable())) {
+      return target.keep(durability) ? CopyOutcome::kUnchanged : CopyOutcome::kWritten;
+    }
+  }
+  content_.write_to(source, target.begin(staging_), target_path);
+  if (!target.finish(durability)) {
+    staging_.reset();
+    content_.write_to(source, target.begin(nullptr), target_path);
+    target.finish(durability);
+  }
+  return CopyOutcome::kWritten;
+}
+
+void PosixFileSystem::remove_file(std::string_view path) {
+  constexpr std::string_view kAttempted = "delete";
+  Place place = place_of(path, EntryKind::kFile);
+  struct stat status {};
+  const bool found = with_spelling(place, [&status](int folder, const char* name) {
+    return ::fstatat(folder, name, &status, AT_SYMLINK_NOFOLLOW) == 0;
+  });
+  if (!found) throw_system_error(kAttempted, path);
+  refuse_read_only(status, kAttempted, path);
+  if (::unlinkat(place.folder->descriptor(), place.name.c_str(), 0) != 0)
+    throw_system_error(kAttempted, path);
+  place.folder->name_removed(place.name);
+}
+
+void PosixFileSystem::start_program(std::string_view path, std::string_view folder) {
+  Place program = place_of(path, EntryKind::kFile);
+  struct stat status {};
+  const bool found = with_spelling(
+      program, [&status](int parent, const char* name) { return ::fstatat(parent, name, &status, 0) == 0; });
+  if (!found) throw_system_error("start", path);
+  const std::string beginning = read_file(path, 2);
+  std::string spelled = join_path(program.folder->path(), program.name);
+  if (spelled.front() != '/') spelled = join_path(current_folder(), spelled);
+
+  Place place = place_of(folder, EntryKind::kFolder);
+  const FileHandle start_folder = open_folder(place);
+  if (!start_folder.is_open()) throw_system_error("start a program in", folder);
+  start_detached(command_for(spelled, beginning), start_folder.descriptor(), path);
+}
+
+void PosixFileSystem::begin_action(Pulse pulse, std::string_view staging) {
+  content_.set_pulse(std::move(pulse));
+  folders_.remember();
+  if (!staging.empty()) staging_ = place_of(join_path(staging, "any"), EntryKind::kFile).folder;
+}
+
+void PosixFileSystem::end_action() {
+  content_.set_pulse({});
+  staging_.reset();
+  folders_.forget();
+}
+
+}  // namespace
+
+std::unique_ptr<FileSystem> make_platform_file_system() {
+  return std::make_unique<PosixFileSystem>();
+}
+
+}  // namespace vorlund

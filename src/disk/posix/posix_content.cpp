@@ -1,0 +1,156 @@
+// Compares by blocks, and copies by shared blocks, by the kernel's copy, or by reading and writing.
+#include "posix/posix_content.h"
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+
+#ifdef __linux__
+#include <linux/fs.h>
+#include <sys/ioctl.h>
+#endif
+
+namespace vorlund {
+
+namespace {
+
+constexpr std::size_t kBlock = 256 * 1024;
+constexpr std::size_t kBuffer = kBlock + 1;
+constexpr std::size_t kFirstBlock = 4096;
+constexpr std::uint64_t kPulseBytes = 1 << 20;
+
+/// Reads up to `size` bytes at an offset, fewer only at the end of the file; -1, with errno, on failure.
+ssize_t read_at(int descriptor, char* bytes, std::size_t size, std::uint64_t offset) {
+  std::size_t done = 0;
+  while (done < size) {
+    const ssize_t got = ::pread(descriptor, bytes + done, size - done, static_cast<off_t>(offset + done));
+    if (got < 0 && errno == EINTR) continue;
+    if (got < 0) return -1;
+    if (got == 0) break;
+    done += static_cast<std::size_t>(got);
+  }
+  return static_cast<ssize_t>(done);
+}
+
+}  // namespace
+
+char* PageBlock::bytes(std::size_t size) {
+  if (!bytes_) bytes_.reset(new (kPage) char[size]);
+  return bytes_.get();
+}
+
+void PosixContent::take(const PosixSource& source) {
+  whole_source_read_ = false;
+  if (source.size() > kBlock) return;
+  const std::string_view bytes = source_block(source, 0, static_cast<std::size_t>(source.size()));
+  whole_source_read_ = bytes.size() == source.size();
+}
+
+bool PosixContent::known_same(const PosixSource& source, int target) {
+  if (!last_was_same_ || !whole_source_read_ || source.size() == 0) return false;
+  // One byte more is asked for, so that a longer target shows.
+  const auto size = static_cast<std::size_t>(source.size());
+  const ssize_t got = ::pread(target, target_buffer_.bytes(kBuffer), size + 1, 0);
+  const bool same = got == static_cast<ssize_t>(size) &&
+                    std::memcmp(target_buffer_.bytes(kBuffer), source_buffer_.bytes(kBuffer), size) == 0;
+  if (same) worked_through(size);
+  return same;
+}
+
+bool PosixContent::same_as(const PosixSource& source, int target) {
+  // Files that differ mostly do so early; but a set that is installed again is the same throughout.
+  std::size_t step = last_was_same_ ? kBlock : kFirstBlock;
+  last_was_same_ = false;
+  for (std::uint64_t offset = 0; offset < source.size();) {
+    const auto size = static_cast<std::size_t>(std::min<std::uint64_t>(step, source.size() - offset));
+    const std::string_view expected = whole_source_read_
+                                          ? std::string_view(source_buffer_.bytes(kBuffer) + offset, size)
+                                          : source_block(source, offset, size);
+    const ssize_t got = read_at(target, target_buffer_.bytes(kBuffer), size, offset);
+    if (got != static_cast<ssize_t>(size) ||
+        expected != std::string_view(target_buffer_.bytes(kBuffer), size)) {
+      return false;
+    }
+    worked_through(size);
+    offset += size;
+    step = kBlock;
+  }
+  last_was_same_ = true;
+  return true;
+}
+
+void PosixContent::write_to(const PosixSource& source, int target, std::string_view target_path) {
+  if (whole_source_read_) {
+    const std::string_view bytes(source_buffer_.bytes(kBuffer), static_cast<std::size_t>(source.size()));
+    if (!write_all(target, bytes)) throw_system_error("write", target_path);
+    worked_through(bytes.size());
+    return;
+  }
+  if (clone(source, target)) return;
+  copy_blocks(source, copy_in_kernel(source, target), target, target_path);
+}
+
+std::string_view PosixContent::source_block(const PosixSource& source, std::uint64_t offset,
+                                            std::size_t size) {
+  const ssize_t got = read_at(source.handle.descriptor(), source_buffer_.bytes(kBuffer), size, offset);
+  if (got < 0) throw_system_error("read", source.path);
+  return {source_buffer_.bytes(kBuffer), static_cast<std::size_t>(got)};
+}
+
+bool PosixContent::clone(const PosixSource& source, int target) {
+#ifdef FICLONE
+  struct stat status {};
+  if (::fstat(target, &status) != 0) return false;
+  const auto disks = std::make_pair(source.status.st_dev, status.st_dev);
+  if (cannot_clone_.contains(disks)) return false;
+  if (::ioctl(target, FICLONE, source.handle.descriptor()) == 0) return true;
+  cannot_clone_.insert(disks);
+#else
+  static_cast<void>(source);
+  static_cast<void>(target);
+#endif
+  return false;
+}
+
+/// Returns how many bytes the kernel has copied; where it can't go on, reading and writing takes over and
+/// meets the error, if there is one.
+std::uint64_t PosixContent::copy_in_kernel(const PosixSource& source, int target) {
+  std::uint64_t copied = 0;
+#ifdef __linux__
+  while (copied < source.size()) {
+    const std::uint64_t step = std::min(kPulseBytes, source.size() - copied);
+    const ssize_t got = ::copy_file_range(source.handle.descriptor(), nullptr, target, nullptr,
+                                          static_cast<std::size_t>(step), 0);
+    if (got < 0 && errno == EINTR) continue;
+    if (got <= 0) break;
+    copied += static_cast<std::uint64_t>(got);
+    worked_through(static_cast<std::uint64_t>(got));
+  }
+#else
+  static_cast<void>(source);
+  static_cast<void>(target);
+#endif
+  return copied;
+}
+
+void PosixContent::copy_blocks(const PosixSource& source, std::uint64_t offset, int target,
+                               std::string_view target_path) {
+  for (;;) {
+    const std::string_view bytes = source_block(source, offset, kBlock);
+    if (bytes.empty()) return;
+    if (!write_all(target, bytes)) throw_system_error("write", target_path);
+    offset += bytes.size();
+    worked_through(bytes.size());
+  }
+}
+
+void PosixContent::worked_through(std::uint64_t bytes) {
+  since_pulse_ += bytes;
+  if (since_pulse_ < kPulseBytes) return;
+  since_pulse_ = 0;
+  if (pulse_) pulse_();
+}
+
+}  // namespace vorlund

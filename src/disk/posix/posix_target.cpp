@@ -1,0 +1,195 @@
+// Writes beside the target and renames, so that a crash leaves the old file or the new one.
+#include "posix/posix_target.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <utility>
+
+#include "base/action_error.h"
+
+namespace vorlund {
+
+namespace {
+
+constexpr mode_t kAnyWrite = S_IWUSR | S_IWGRP | S_IWOTH;
+constexpr mode_t kPermissions = S_IRWXU | S_IRWXG | S_IRWXO;
+constexpr mode_t kUsualPermissions = S_IRUSR | S_IWUSR | S_IRGRP | S_IWGRP | S_IROTH | S_IWOTH;
+
+}  // namespace
+
+void refuse_read_only(const struct stat& status, std::string_view attempted, std::string_view path) {
+  if (S_ISREG(status.st_mode) && (status.st_mode & kAnyWrite) == 0) {
+    throw ActionError(attempted, path, "the file is read-only");
+  }
+}
+
+PosixTarget::PosixTarget(std::shared_ptr<PosixFolder> folder, std::string name, std::string_view path,
+                         Spelling spelling)
+    : folder_(std::move(folder)), name_(std::move(name)), path_(path), spelling_(spelling) {
+  if (folder_->expects_as_spelled())
+    existing_ = open_to_read(folder_->descriptor(), name_.c_str(), O_NOFOLLOW);
+  if (!existing_.is_open()) look();
+}
+
+void PosixTarget::look() {
+  if (looked_) return;
+  looked_ = true;
+  if (existing_.is_open()) {
+    look_at(name_);
+  } else {
+    look_for_spellings();
+  }
+}
+
+void PosixTarget::look_for_spellings() {
+  auto found = folder_->spellings(name_);
+  if (!found) fail();
+  others_ = std::move(found->others);
+  std::string there = name_;
+  if (!found->exact) {
+    if (others_.empty()) return;
+    there = std::move(others_.front());
+    others_.erase(others_.begin());
+  }
+  if (spelling_ == Spelling::kAsItStands) {
+    name_ = there;
+    others_.clear();
+  }
+  look_at(there);
+}
+
+PosixTarget::~PosixTarget() {
+  drop();
+}
+
+/// Removes a neighbour that was not put in its place.
+void PosixTarget::drop() {
+  if (!neighbour_.empty()) ::unlinkat(neighbour_folder_->descriptor(), neighbour_.c_str(), 0);
+  neighbour_.clear();
+}
+
+void PosixTarget::look_at(const std::string& spelling) {
+  if (!existing_.is_open()) {
+    existing_ = open_to_read(folder_->descriptor(), spelling.c_str(), O_NOFOLLOW);
+  }
+  const int result = existing_.is_open()
+                         ? ::fstat(existing_.descriptor(), &status_)
+                         : ::fstatat(folder_->descriptor(), spelling.c_str(), &status_, AT_SYMLINK_NOFOLLOW);
+  if (result != 0 && errno == ENOENT) return;
+  if (result != 0) fail();
+  if (S_ISDIR(status_.st_mode)) {
+    errno = EISDIR;
+    fail();
+  }
+  if (!S_ISREG(status_.st_mode)) existing_.close();
+  current_ = spelling;
+}
+
+bool PosixTarget::keep(Durability durability) {
+  const bool as_asked = !looked_ || (current_ == name_ && others_.empty());
+  if (!as_asked) {
+    refuse_read_only_others();
+    settle_spelling();
+  }
+  if (durability == Durability::kFlushed) {
+    if (::fsync(existing_.descriptor()) != 0) fail();
+    flush_folder();
+  }
+  return as_asked;
+}
+
+int PosixTarget::begin(const std::shared_ptr<PosixFolder>& staging) {
+  drop();
+  look();
+  if (is_there()) refuse_read_only(status_, "write", path_);
+  refuse_read_only_others();
+  existing_.close();
+  const bool replaces = is_there() && S_ISREG(status_.st_mode);
+  const mode_t mode = replaces ? status_.st_mode & kPermissions : kUsualPermissions;
+  const bool staged = staging && folder_->takes_files_of(*staging) && create(staging, mode);
+  if (!staged && !create(folder_, mode)) fail();
+  if (replaces) set_mode(mode);
+  return written_.descriptor();
+}
+
+/// Creates the neighbour in a folder under a name that is not taken; false, with errno, where that can't be
+/// done.
+bool PosixTarget::create(const std::shared_ptr<PosixFolder>& folder, mode_t mode) {
+  folder->sweep_left_overs();
+  std::string neighbour;
+  for (unsigned attempt = 0; !written_.is_open(); ++attempt) {
+    neighbour = staging_name(attempt);
+    written_ =
+        open_at(folder->descriptor(), neighbour.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW, mode);
+    if (!written_.is_open() && errno != EEXIST) return false;
+  }
+  neighbour_ = neighbour;
+  neighbour_folder_ = folder;
+  return true;
+}
+
+/// Brings back the permissions that the process's mask has taken from the new file, if any.
+void PosixTarget::set_mode(mode_t mode) {
+  struct stat status {};
+  if (::fstat(written_.descriptor(), &status) != 0) fail();
+  if ((status.st_mode & kPermissions) != mode && ::fchmod(written_.descriptor(), mode) != 0) fail();
+}
+
+bool PosixTarget::finish(Durability durability) {
+  if (durability == Durability::kFlushed && ::fsync(written_.descriptor()) != 0) fail();
+  if (!written_.close()) fail();
+  settle_spelling();
+  if (::renameat(neighbour_folder_->descriptor(), neighbour_.c_str(), folder_->descriptor(), name_.c_str()) !=
+      0) {
+    if (errno == EXDEV && neighbour_folder_ != folder_) return false;
+    fail();
+  }
+  neighbour_folder_->name_removed(neighbour_);
+  folder_->name_added(name_);
+  neighbour_.clear();
+  if (durability == Durability::kFlushed) flush_folder();
+  return true;
+}
+
+/// Flushes the folder, so that the name is on the disk too. Some disks have no such call for folders (shared
+/// folders, network and FUSE disks): there it is left to them.
+void PosixTarget::flush_folder() const {
+  const FileHandle opened = open_at(folder_->descriptor(), ".", O_RDONLY | O_DIRECTORY);
+  if (!opened.is_open() || (::fsync(opened.descriptor()) != 0 && errno != EINVAL && errno != ENOTSUP)) fail();
+}
+
+void PosixTarget::refuse_read_only_others() const {
+  for (const std::string& other : others_) {
+    struct stat status {};
+    if (::fstatat(folder_->descriptor(), other.c_str(), &status, AT_SYMLINK_NOFOLLOW) == 0) {
+      refuse_read_only(status, "write", path_);
+    }
+  }
+}
+
+/// Leaves the file under the asked spelling alone; folders of the same name stay.
+void PosixTarget::settle_spelling() {
+  if (is_there() && current_ != name_) {
+    if (::renameat(folder_->descriptor(), current_.c_str(), folder_->descriptor(), name_.c_str()) != 0)
+      fail();
+    folder_->name_removed(current_);
+    folder_->name_added(name_);
+    current_ = name_;
+  }
+  for (const std::string& other : others_) {
+    if (::unlinkat(folder_->descriptor(), other.c_str(), 0) == 0 || errno == ENOENT) {
+      folder_->name_removed(other);
+    } else if (errno != EISDIR && errno != EPERM) {
+      fail();
+    }
+  }
+}
+
+void PosixTarget::fail() const {
+  throw_system_error("write", path_);
+}
+
+}  // namespace vorlund

@@ -1,0 +1,198 @@
+// The one door to the disk on Windows, through wide-character calls alone.
+#include <windows.h>
+
+#include <algorithm>
+#include <utility>
+
+#include "base/action_error.h"
+#include "disk/file_system.h"
+#include "windows/windows_content.h"
+#include "windows/windows_path.h"
+#include "windows/windows_target.h"
+
+namespace vorlund {
+
+namespace {
+
+/// Attributes of what a path leads to, links followed.
+std::optional<DWORD> attributes_of(const std::wstring& path) {
+  const DWORD attributes = GetFileAttributesW(path.c_str());
+  if (attributes == INVALID_FILE_ATTRIBUTES) return std::nullopt;
+  if ((attributes & FILE_ATTRIBUTE_REPARSE_POINT) == 0) return attributes;
+  const WindowsHandle opened = open_existing(path, FILE_READ_ATTRIBUTES, FILE_FLAG_BACKUP_SEMANTICS);
+  BY_HANDLE_FILE_INFORMATION information;
+  if (!opened.is_open() || GetFileInformationByHandle(opened.get(), &information) == 0) return std::nullopt;
+  return information.dwFileAttributes;
+}
+
+/// Where links lead a folder's path, ending in a backslash; "" where there is no such folder.
+std::wstring resolved_folder(std::string_view path) {
+  const WindowsHandle opened =
+      open_existing(long_path(path, EntryKind::kFolder), FILE_READ_ATTRIBUTES, FILE_FLAG_BACKUP_SEMANTICS);
+  if (!opened.is_open()) return {};
+  std::wstring resolved(GetFinalPathNameByHandleW(opened.get(), nullptr, 0, FILE_NAME_NORMALIZED), L'\0');
+  const DWORD length = GetFinalPathNameByHandleW(opened.get(), resolved.data(),
+                                                 static_cast<DWORD>(resolved.size()), FILE_NAME_NORMALIZED);
+  if (length == 0 || length >= resolved.size()) return {};
+  resolved.resize(length);
+  if (resolved.back() != L'\\') resolved += L'\\';
+  return resolved;
+}
+
+bool is_folder(DWORD attributes) {
+  return (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+}
+
+class WindowsFileSystem final : public FileSystem {
+ public:
+  std::string current_folder() override;
+  bool FileExists(std::string_view path) override;
+  bool FolderExists(std::string_view path) override;
+  bool lies_inside(std::string_view folder, std::string_view root) override;
+  std::vector<FolderEntry> entries(std::string_view folder) override;
+  std::unique_ptr<FileReader> open_file(std::string_view path) override;
+  void replace_file(std::string_view path, std::string_view bytes, Durability durability) override;
+  CopyOutcome copy_file(std::string_view source, std::string_view target, Durability durability) override;
+  void remove_file(std::string_view path) override;
+  void start_program(std::string_view path, std::string_view folder) override;
+
+ protected:
+  // Windows finds names in any spelling by itself, so there is nothing to remember during an action.
+  /// Copies are written beside their targets: a file moved out of another folder would keep the access rights
+  /// that it inherited there.
+  void begin_action(Pulse pulse, std::string_view) override { content_.set_pulse(std::move(pulse)); }
+  void end_action() override { content_.set_pulse({}); }
+
+ private:
+  WindowsContent content_;
+};
+
+std::string WindowsFileSystem::current_folder() {
+  const std::wstring folder = current_folder_wide();
+  if (folder.empty()) throw_windows_error("find", "the current folder");
+  return from_wide(folder);
+}
+
+bool WindowsFileSystem::FileExists(std::string_view path) {
+  const auto attributes = attributes_of(long_path(path, EntryKind::kFile));
+  return attributes && !is_folder(*attributes);
+}
+
+bool WindowsFileSystem::FolderExists(std::string_view path) {
+  const auto attributes = attributes_of(long_path(path, EntryKind::kFolder));
+  return attributes && is_folder(*attributes);
+}
+
+bool WindowsFileSystem::lies_inside(std::string_view folder, std::string_view root) {
+  const std::wstring above = resolved_folder(root);
+  return !above.empty() && FolderExists(folder) && resolved_folder(folder).starts_with(above);
+}
+
+std::vector<FolderEntry> WindowsFileSystem::entries(std::string_view folder) {
+  std::wstring prefix = long_path(folder, EntryKind::kFolder);
+  if (prefix.empty()) return {};
+  if (prefix.back() != L'\\') prefix += L'\\';
+
+  WIN32_FIND_DATAW entry;
+  const HANDLE search = FindFirstFileExW((prefix + L"*").c_str(), FindExInfoBasic, &entry,
+                                         FindExSearchNameMatch, nullptr, FIND_FIRST_EX_LARGE_FETCH);
+  if (search == INVALID_HANDLE_VALUE) {
+    const DWORD error = GetLastError();
+    const bool missing = error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND ||
+                         error == ERROR_DIRECTORY || error == ERROR_INVALID_NAME;
+    if (!missing) throw_windows_error("list the folder", folder, error);
+    return {};
+  }
+  std::vector<FolderEntry> found;
+  do {
+    const std::wstring_view name = entry.cFileName;
+    if (name == L"." || name == L"..") continue;
+    const auto attributes = is_link(entry) ? attributes_of(prefix + entry.cFileName) : entry.dwFileAttributes;
+    if (!attributes) continue;
+    const bool hidden = (entry.dwFileAttributes & (FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM)) != 0;
+    found.push_back(
+        {from_wide(name), is_folder(*attributes) ? EntryKind::kFolder : EntryKind::kFile, hidden});
+  } while (FindNextFileW(search, &entry) != 0);
+  const DWORD error = GetLastError();
+  FindClose(search);
+  if (error != ERROR_NO_MORE_FILES) throw_windows_error("list the folder", folder, error);
+  return found;
+}
+
+/// Reads an open file block by block.
+class WindowsReader final : public FileReader {
+ public:
+  explicit WindowsReader(std::string_view path) : source_(path) {}
+
+  std::uint64_t size() const override { return source_.size(); }
+
+  std::size_t read(char* bytes, std::size_t size) override {
+    std::size_t got = 0;
+    if (!read_up_to(source_.handle(), bytes, size, got)) throw_windows_error("read", source_.path());
+    return got;
+  }
+
+ private:
+  WindowsSource source_;
+};
+
+std::unique_ptr<FileReader> WindowsFileSystem::open_file(std::string_view path) {
+  return std::make_unique<WindowsReader>(path);
+}
+
+void WindowsFileSystem::replace_file(std::string_view path, std::string_view bytes, Durability durability) {
+  WindowsTarget target(path, Spelling::kAsItStands);
+  const HANDLE written = target.begin();
+  if (!write_all(written, bytes)) throw_windows_error("write", path);
+  target.finish(durability);
+}
+
+CopyOutcome WindowsFileSystem::copy_file(std::string_view source_path, std::string_view target_path,
+                                         Durability durability) {
+  const WindowsSource source(source_path);
+  WindowsTarget target(target_path, Spelling::kAsAsked);
+  {
+    const WindowsHandle existing = target.open_to_compare(source.size());
+    if (existing.is_open() && content_.same(source, existing.get())) {
+      return target.keep(durability) ? CopyOutcome::kUnchanged : CopyOutcome::kWritten;
+    }
+  }
+  content_.copy(source, target.begin(), target_path);
+  target.finish(durability);
+  return CopyOutcome::kWritten;
+}
+
+void WindowsFileSystem::remove_file(std::string_view path) {
+  constexpr std::string_view kAttempted = "delete";
+  const std::wstring spelled = long_path(path, EntryKind::kFile);
+  const DWORD attributes = GetFileAttributesW(spelled.c_str());
+  if (attributes == INVALID_FILE_ATTRIBUTES) throw_windows_error(kAttempted, path);
+  refuse_read_only(attributes, kAttempted, path);
+  if (DeleteFileW(spelled.c_str()) == 0) throw_windows_error(kAttempted, path);
+}
+
+void WindowsFileSystem::start_program(std::string_view path, std::string_view folder) {
+  // Programs are given the plain form: many don't know the long one.
+  const std::wstring program = absolute_path(path, EntryKind::kFile);
+  const std::wstring start_folder = absolute_path(folder, EntryKind::kFolder);
+  std::wstring command_line = L"\"" + program + L"\"";
+  STARTUPINFOW start{};
+  start.cb = sizeof start;
+  start.dwFlags = STARTF_USESHOWWINDOW;
+  start.wShowWindow = SW_SHOWNORMAL;
+  PROCESS_INFORMATION process{};
+  if (CreateProcessW(program.c_str(), command_line.data(), nullptr, nullptr, FALSE, 0, nullptr,
+                     start_folder.c_str(), &start, &process) == 0) {
+    throw_windows_error("start", path);
+  }
+  CloseHandle(process.hThread);
+  CloseHandle(process.hProcess);
+}
+
+}  // namespace
+
+std::unique_ptr<FileSystem> make_platform_file_system() {
+  return std::make_unique<WindowsFileSystem>();
+}
+
+}  // namespace vorlund

@@ -1,0 +1,72 @@
+// Own copy loop: the overwriting copy of the run-time library is known to fail here.
+#include "windows/windows_content.h"
+
+#include "windows/windows_path.h"
+
+namespace vorlund {
+
+namespace {
+
+constexpr std::size_t kBlock = 256 * 1024;
+constexpr std::uint64_t kPulseBytes = 1 << 20;
+
+bool one_file(HANDLE a, HANDLE b) {
+  BY_HANDLE_FILE_INFORMATION of_a;
+  BY_HANDLE_FILE_INFORMATION of_b;
+  if (GetFileInformationByHandle(a, &of_a) == 0 || GetFileInformationByHandle(b, &of_b) == 0) return false;
+  return of_a.dwVolumeSerialNumber == of_b.dwVolumeSerialNumber &&
+         of_a.nFileIndexHigh == of_b.nFileIndexHigh && of_a.nFileIndexLow == of_b.nFileIndexLow;
+}
+
+}  // namespace
+
+WindowsSource::WindowsSource(std::string_view path)
+    : path_(path),
+      handle_(open_existing(long_path(path, EntryKind::kFile), GENERIC_READ, FILE_FLAG_SEQUENTIAL_SCAN)) {
+  LARGE_INTEGER size;
+  if (!handle_.is_open() || GetFileSizeEx(handle_.get(), &size) == 0) throw_windows_error("read", path);
+  size_ = static_cast<std::uint64_t>(size.QuadPart);
+}
+
+bool WindowsContent::same(const WindowsSource& source, HANDLE target) {
+  if (one_file(source.handle(), target)) return true;
+  target_buffer_.resize(kBlock);
+  for (;;) {
+    const std::string_view expected = next_block(source);
+    std::size_t got = 0;
+    if (!read_up_to(target, target_buffer_.data(), target_buffer_.size(), got)) return false;
+    if (expected != std::string_view(target_buffer_.data(), got)) return false;
+    if (got == 0) return true;
+    worked_through(got);
+  }
+}
+
+void WindowsContent::copy(const WindowsSource& source, HANDLE target, std::string_view target_path) {
+  const LARGE_INTEGER start{};
+  if (SetFilePointerEx(source.handle(), start, nullptr, FILE_BEGIN) == 0)
+    throw_windows_error("read", source.path());
+  for (;;) {
+    const std::string_view bytes = next_block(source);
+    if (bytes.empty()) return;
+    if (!write_all(target, bytes)) throw_windows_error("write", target_path);
+    worked_through(bytes.size());
+  }
+}
+
+std::string_view WindowsContent::next_block(const WindowsSource& source) {
+  source_buffer_.resize(kBlock);
+  std::size_t got = 0;
+  if (!read_up_to(source.handle(), source_buffer_.data(), source_buffer_.size(), got)) {
+    throw_windows_error("read", source.path());
+  }
+  return {source_buffer_.data(), got};
+}
+
+void WindowsContent::worked_through(std::uint64_t bytes) {
+  since_pulse_ += bytes;
+  if (since_pulse_ < kPulseBytes) return;
+  since_pulse_ = 0;
+  if (pulse_) pulse_();
+}
+
+}  // namespace vorlund

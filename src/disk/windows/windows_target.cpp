@@ -1,0 +1,157 @@
+// Writes beside the target and renames, so that a crash leaves the old file or the new one.
+#include "windows/windows_target.h"
+
+#include "base/action_error.h"
+#include "base/text.h"
+#include "windows/windows_path.h"
+
+namespace vorlund {
+
+namespace {
+
+/// Attributes that a replaced file hands on.
+constexpr DWORD kKeptAttributes = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_ARCHIVE;
+
+/// The entry that a path names, links not followed; none, with the system's error, when there is none.
+std::optional<WIN32_FIND_DATAW> find_entry(const std::wstring& path) {
+  WIN32_FIND_DATAW entry;
+  const HANDLE search =
+      FindFirstFileExW(path.c_str(), FindExInfoBasic, &entry, FindExSearchNameMatch, nullptr, 0);
+  if (search == INVALID_HANDLE_VALUE) return std::nullopt;
+  FindClose(search);
+  return entry;
+}
+
+}  // namespace
+
+void refuse_read_only(DWORD attributes, std::string_view attempted, std::string_view path) {
+  if ((attributes & FILE_ATTRIBUTE_READONLY) != 0)
+    throw ActionError(attempted, path, "the file is read-only");
+}
+
+bool is_link(const WIN32_FIND_DATAW& entry) {
+  return (entry.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0 &&
+         IsReparseTagNameSurrogate(entry.dwReserved0);
+}
+
+WindowsTarget::WindowsTarget(std::string_view path, Spelling spelling)
+    : path_(path), long_path_(long_path(path, EntryKind::kFile)) {
+  const std::size_t name_begin = long_path_.rfind(L'\\') + 1;
+  folder_ = long_path_.substr(0, name_begin);
+  name_ = long_path_.substr(name_begin);
+  if (name_.empty()) throw_windows_error("write", path_, ERROR_INVALID_NAME);
+
+  existing_ = find_entry(long_path_);
+  if (!existing_) {
+    if (GetLastError() != ERROR_FILE_NOT_FOUND) fail();
+  } else if ((existing_->dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
+    throw ActionError("write", path_, "it is a folder");
+  } else if (spelling == Spelling::kAsItStands && spelled_otherwise()) {
+    name_ = existing_->cFileName;
+    long_path_ = folder_ + name_;
+  }
+}
+
+WindowsTarget::~WindowsTarget() {
+  if (neighbour_.empty()) return;
+  written_.close();
+  DeleteFileW(neighbour_.c_str());
+}
+
+WindowsHandle WindowsTarget::open_to_compare(std::uint64_t size) const {
+  if (!existing_ || is_link(*existing_)) return {};
+  const std::uint64_t existing_size =
+      (std::uint64_t{existing_->nFileSizeHigh} << 32) | existing_->nFileSizeLow;
+  if (existing_size != size) return {};
+  return open_existing(long_path_, GENERIC_READ, FILE_FLAG_SEQUENTIAL_SCAN);
+}
+
+bool WindowsTarget::keep(Durability durability) {
+  const bool as_asked = !spelled_otherwise();
+  settle_spelling();
+  const bool read_only = (existing_->dwFileAttributes & FILE_ATTRIBUTE_READONLY) != 0;
+  if (durability == Durability::kFlushed && !read_only) {
+    const WindowsHandle kept = open_existing(long_path_, GENERIC_WRITE, 0);
+    if (!kept.is_open() || FlushFileBuffers(kept.get()) == 0) fail();
+  }
+  return as_asked;
+}
+
+HANDLE WindowsTarget::begin() {
+  if (existing_) refuse_read_only(existing_->dwFileAttributes, "write", path_);
+  const DWORD kept = existing_ ? existing_->dwFileAttributes & kKeptAttributes : 0;
+  sweep_left_overs();
+  std::wstring neighbour;
+  for (unsigned attempt = 0; !written_.is_open(); ++attempt) {
+    neighbour = folder_ + to_wide(staging_name(attempt));
+    written_ = WindowsHandle(CreateFileW(neighbour.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
+                                         kept != 0 ? kept : FILE_ATTRIBUTE_NORMAL, nullptr));
+    const DWORD error = written_.is_open() ? ERROR_SUCCESS : GetLastError();
+    if (error != ERROR_SUCCESS && error != ERROR_FILE_EXISTS && error != ERROR_ALREADY_EXISTS) fail();
+  }
+  neighbour_ = neighbour;
+  return written_.get();
+}
+
+/// Deletes the files that a write of a process that runs no more has left in the folder. Such that can't be
+/// deleted stay.
+void WindowsTarget::sweep_left_overs() const {
+  WIN32_FIND_DATAW entry;
+  const HANDLE search = FindFirstFileExW((folder_ + L"~vorlund-*.bak").c_str(), FindExInfoBasic, &entry,
+                                         FindExSearchNameMatch, nullptr, 0);
+  if (search == INVALID_HANDLE_VALUE) return;
+  do {
+    if (!is_left_over(from_wide(entry.cFileName))) continue;
+    const std::wstring left_over = folder_ + entry.cFileName;
+    SetFileAttributesW(left_over.c_str(), FILE_ATTRIBUTE_NORMAL);
+    DeleteFileW(left_over.c_str());
+  } while (FindNextFileW(search, &entry) != 0);
+  FindClose(search);
+}
+
+void WindowsTarget::finish(Durability durability) {
+  const bool flushed = durability == Durability::kFlushed;
+  if (flushed && FlushFileBuffers(written_.get()) == 0) fail();
+  if (!written_.close()) fail();
+  const DWORD flags = MOVEFILE_REPLACE_EXISTING | (flushed ? MOVEFILE_WRITE_THROUGH : 0U);
+  if (MoveFileExW(neighbour_.c_str(), long_path_.c_str(), flags) == 0) fail();
+  neighbour_.clear();
+  settle_spelling();
+}
+
+/// A name found by its short form, "LONGNA~1", is no other spelling and stays.
+bool WindowsTarget::spelled_otherwise() const {
+  return existing_ && existing_->cFileName != name_ &&
+         same_name(from_wide(existing_->cFileName), from_wide(name_));
+}
+
+void WindowsTarget::settle_spelling() const {
+  if (!spelled_otherwise()) return;
+  const auto spelled_as_asked = [this] {
+    const auto entry = find_entry(long_path_);
+    return entry && entry->cFileName == name_;
+  };
+  if (spelled_as_asked()) return;
+  const std::wstring spelled = folder_ + existing_->cFileName;
+  if (MoveFileExW(spelled.c_str(), long_path_.c_str(), 0) == 0) fail();
+  if (spelled_as_asked()) return;
+
+  // Where a rename that changes nothing but case is passed over, as by Wine, the file takes a step over a
+  // name of this process's own. It holds the source's bytes by then, so a crash there loses nothing.
+  std::wstring step;
+  for (unsigned attempt = 0; step.empty() || find_entry(step); ++attempt) {
+    step = folder_ + to_wide(staging_name(attempt));
+  }
+  if (MoveFileExW(spelled.c_str(), step.c_str(), 0) == 0) fail();
+  if (MoveFileExW(step.c_str(), long_path_.c_str(), 0) == 0) {
+    const DWORD error = GetLastError();
+    MoveFileExW(step.c_str(), spelled.c_str(), 0);
+    throw_windows_error("write", path_, error);
+  }
+}
+
+void WindowsTarget::fail() const {
+  throw_windows_error("write", path_);
+}
+
+}  // namespace vorlund

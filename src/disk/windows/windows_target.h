@@ -1,0 +1,64 @@
+// The replacing of one file as a whole on Windows: the neighbour, the spelling and the rename.
+#pragma once
+
+#include <windows.h>
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "disk/file_system.h"
+#include "spelling.h"
+#include "windows/windows_file.h"
+
+namespace vorlund {
+
+/// The place of a file that is to be written. Functions throw ActionError; the file that was there stays
+/// whole until `finish` has put the new one in its place.
+class WindowsTarget {
+ public:
+  /// Looks up what is there. `path` is the path as the program spells it.
+  WindowsTarget(std::string_view path, Spelling spelling);
+
+  /// Removes the neighbour of a write that was not finished.
+  ~WindowsTarget();
+  WindowsTarget(const WindowsTarget&) = delete;
+  WindowsTarget& operator=(const WindowsTarget&) = delete;
+
+  /// The file that is there, opened for reading, when it is no link and has that size; else not open.
+  WindowsHandle open_to_compare(std::uint64_t size) const;
+
+  /// Keeps the file that is there, spelled as asked. True when it was spelled so. One that is marked
+  /// read-only can't be flushed and counts as being on the disk.
+  bool keep(Durability durability);
+
+  /// Creates the neighbour, and returns it open for writing. An error where the file must not be replaced.
+  HANDLE begin();
+
+  /// Puts the neighbour in the file's place.
+  void finish(Durability durability);
+
+ private:
+  void sweep_left_overs() const;
+  bool spelled_otherwise() const;
+  /// Spells the file that is in place as asked.
+  void settle_spelling() const;
+  [[noreturn]] void fail() const;
+
+  std::string path_;
+  std::wstring long_path_;
+  std::wstring folder_;  ///< with a backslash at its end
+  std::wstring name_;
+  std::optional<WIN32_FIND_DATAW> existing_;
+  std::wstring neighbour_;  ///< full path, "" when there is none
+  WindowsHandle written_;
+};
+
+/// Throws ActionError where the attributes mark the file read-only.
+void refuse_read_only(DWORD attributes, std::string_view attempted, std::string_view path);
+
+/// True for a link, which is replaced or removed itself.
+bool is_link(const WIN32_FIND_DATAW& entry);
+
+}  // namespace vorlund

@@ -1,0 +1,44 @@
+// Verbs of the game pane.
+#include "panes/game_pane.h"
+
+#include "gamesets/game_installer.h"
+#include "gamesets/game_record.h"
+
+namespace vorlund {
+
+void GamePane::install() {
+  const Working working(desk_, GameLoad);
+  const GameFolder game = desk_.game();
+  const GameSetSummary summary = install_game_set(game, desk_.status, G2);
+  GameFrame.visible = false;
+  desk_.labels.Label2.visible = true;
+  SaveGS(game, G2);
+  desk_.say(summary.text());
+}
+
+void GamePane::clear_selected_row(std::optional<std::string_view> last_group) {
+  if (G2.current_row == 0) {
+    desk_.say("Nothing was cleared: first select a row");
+    return;
+  }
+  const std::string cleared = G2.current_in_words();
+  G2.clear_current(last_group);
+  desk_.say(cleared + " was cleared. Its files stay in the game folder until \"Clean Up\".");
+}
+
+void GamePane::move_selected_row_to_end() {
+  G2.move_current_to_end();
+  desk_.say(G2.current_row == 0 ? "Nothing was moved: first select a row"
+                                : G2.current_in_words() + " now stands at the end and is loaded last");
+}
+
+void GamePane::load(std::string_view path) {
+  read_game_set(desk_.files, path, G2);
+}
+
+void GamePane::hide() {
+  GameFrame.visible = false;
+  desk_.labels.pane_hidden();
+}
+
+}  // namespace vorlund

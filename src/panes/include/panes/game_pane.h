@@ -1,0 +1,45 @@
+// The pane of the game table and its commands.
+#pragma once
+
+#include <array>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "gamesets/game_table.h"
+#include "panes/desk.h"
+
+namespace vorlund {
+
+/// State and verbs of `GameFrame`.
+class GamePane {
+ public:
+  static constexpr std::array<int, 2> kColumnWidths = {3000, 5000};  ///< of `G2`, in twips
+
+  explicit GamePane(Desk& desk) : desk_(desk) {}
+
+  Frame GameFrame{"Game Frame", false, {7350, 900, 9600, 7800}};
+  GameTable G2;                             ///< the folders that the game directory is composed of
+  Label GameLoad{"Process!"};               ///< installs the game set
+  Label Label28{"Clear the selected row"};  ///< takes the current row out of the set
+  Label Label29{"Move the selected row to the end ( to load last)"};
+  Label Label10{"Hide"};  ///< element 1 of the "Hide" labels
+
+  /// Installs the game set, hides the pane, writes the record and says what was done.
+  void install();
+
+  /// `last_group` is the caption of the last group label of the selection pane, none while there is none.
+  void clear_selected_row(std::optional<std::string_view> last_group);
+  void move_selected_row_to_end();
+
+  /// Refills the table from a saved set-up.
+  void load(std::string_view path);
+
+  void hide();
+  void show() { desk_.show_in_front(GameFrame); }
+
+ private:
+  Desk& desk_;
+};
+
+}  // namespace vorlund

@@ -1,0 +1,31 @@
+// A picture control: the bytes of the picture files it shows, for the window to decode.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "disk/file_system.h"
+#include "panes/controls.h"
+
+namespace vorlund {
+
+/// A picture file as read from the store. Its format is recognised by its content when it is shown.
+struct PictureFile {
+  std::string path;                          ///< "" for no picture
+  std::shared_ptr<const std::string> bytes;  ///< null for no picture
+};
+
+/// A control that shows a picture (`Image1`, `Image3`, ...).
+struct Picture {
+  PictureFile picture;
+  PictureFile fallback;  ///< shown where `picture` is none or can't be decoded
+  bool visible = true;
+  bool bordered = false;  ///< a single line runs round it
+  Place place{};
+};
+
+/// Reads a picture file; one larger than 256 MiB, or one that is not there, gives no picture.
+PictureFile load_picture(FileSystem& files, std::string_view path);
+
+}  // namespace vorlund

@@ -1,0 +1,98 @@
+// Verbs of the aircraft pane.
+#include "panes/plane_pane.h"
+
+#include "aircraft/aircraft_installer.h"
+#include "aircraft/plane_record.h"
+
+namespace vorlund {
+
+PlanePane::PlanePane(Desk& desk) : desk_(desk) {
+  Option1[static_cast<std::size_t>(PlaneOption::kFindFlightModel)].caption = "Find FM for selected slot";
+  Option1[static_cast<std::size_t>(PlaneOption::kEditMode)].caption = "Edit Mode";
+  Option1[static_cast<std::size_t>(PlaneOption::kMatchSkin)].caption = "Match skin to selected FM";
+  refresh();
+}
+
+void PlanePane::set_option(PlaneOption option) {
+  for (Choice& choice : Option1) choice.checked = false;
+  Option1[static_cast<std::size_t>(option)].checked = true;
+  option == PlaneOption::kEditMode ? show_plane_codes() : show_flight_models();
+}
+
+void PlanePane::install(PictureMenu& menu) {
+  const Working working(desk_, Label8);
+  Frame1.visible = false;
+  const GameFolder game = desk_.game();
+  const AircraftSummary summary = install_aircraft_set(game, desk_.status, G1, pilot_names, menu);
+  SavePS(game, G1);
+  refresh();
+  desk_.say(summary.text());
+}
+
+void PlanePane::clear_selected_row() {
+  if (G1.current_row == 0) {
+    desk_.say("Nothing was cleared: first select a slot");
+    return;
+  }
+  G1.clear_current();
+  refresh();
+  desk_.say(
+      "Slot " + G1.cell(G1.current_row, PlaneTable::kSlot) +
+      " was cleared and is still the selected one. Its files stay in the game folder until \"Clean Up\".");
+}
+
+void PlanePane::switch_view() {
+  G1.switch_view();
+  refresh();
+}
+
+bool PlanePane::click_cell(int row, int column) {
+  const bool edits = is_set(PlaneOption::kEditMode);
+  if (edits) show_plane_codes();
+  G1.select(row, column);
+  if (!edits) return false;
+  G1.selected_slot_row = G1.current_row;
+  if (G1.current_row == 0) return false;
+  if (column == PlaneTable::kRegion || column == PlaneTable::kSkinFolder) return true;
+  G1.cycle(row, column);
+  return false;
+}
+
+void PlanePane::set_flight_model_group(const std::string& group) {
+  G1.flight_model_group = group;
+  for (Label& label : Label25) label.caption = group;
+}
+
+void PlanePane::load(std::string_view path) {
+  read_plane_set(desk_.files, path, G1);
+  set_flight_model_group(G1.flight_model_group);
+  refresh();
+}
+
+void PlanePane::empty() {
+  G1.clear_slots();
+  for (Label& label : Label25) label.caption.clear();
+  refresh();
+}
+
+void PlanePane::refresh() {
+  Label30.caption = G1.shows_all ? "Show Selections" : "Show All";
+}
+
+void PlanePane::show_flight_models() {
+  List2.visible = true;
+  List3.visible = false;
+}
+
+void PlanePane::show_plane_codes() {
+  List2.visible = false;
+  List3.visible = true;
+}
+
+void PlanePane::hide() {
+  Frame1.visible = false;
+  desk_.labels.SkinLab2.visible = false;
+  desk_.labels.pane_hidden();
+}
+
+}  // namespace vorlund

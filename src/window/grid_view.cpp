@@ -1,0 +1,224 @@
+// The table model over a grid, and the view's mouse and keyboard.
+#include "window/grid_view.h"
+
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <algorithm>
+#include <numeric>
+
+#include "window/entry_delegate.h"
+#include "window/theme.h"
+
+namespace vorlund {
+
+namespace {
+
+constexpr int kPadding = 2 * EntryDelegate::kMargin + 3;  // of headers and cells, with the grid line
+constexpr int kMeasuredRows = 200;
+constexpr std::size_t kMeasuredBytes = 100;
+
+}  // namespace
+
+void GridModel::refresh() {
+  std::vector<int> shown;
+  for (int row = 1; row < grid_.row_count(); ++row) {
+    if (!grid_.is_hidden(row)) shown.push_back(row);
+  }
+  if (shown == shown_ && columns_ == grid_.columns) {
+    if (!shown_.empty()) emit dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
+    return;
+  }
+  beginResetModel();
+  shown_ = std::move(shown);
+  columns_ = grid_.columns;
+  endResetModel();
+}
+
+int GridModel::grid_row(int table_row) const {
+  return table_row < 0 || table_row >= rowCount() ? 0 : shown_[static_cast<std::size_t>(table_row)];
+}
+
+int GridModel::table_row(int grid_row) const {
+  const auto found = std::lower_bound(shown_.begin(), shown_.end(), grid_row);
+  return found == shown_.end() || *found != grid_row ? -1 : static_cast<int>(found - shown_.begin());
+}
+
+int GridModel::rowCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : static_cast<int>(shown_.size());
+}
+
+int GridModel::columnCount(const QModelIndex& parent) const {
+  return parent.isValid() ? 0 : columns_;
+}
+
+QVariant GridModel::data(const QModelIndex& index, int role) const {
+  const int row = grid_row(index.row());
+  switch (role) {
+    case Qt::DisplayRole:
+      return QString::fromStdString(grid_.cell(row, index.column()));
+    case Qt::ToolTipRole:
+      return theme::literal(QString::fromStdString(grid_.cell(row, index.column())));
+    case Qt::ForegroundRole:
+      if (cycles && cycles(row, index.column())) return theme::kAccent;
+      return index.column() == 0 ? theme::kQuietText : theme::kText;
+    default:
+      return {};
+  }
+}
+
+QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {
+  if (orientation != Qt::Horizontal) return {};
+  if (role == Qt::DisplayRole) return QString::fromStdString(grid_.cell(0, section));
+  if (role == Qt::TextAlignmentRole) return int(Qt::AlignLeft | Qt::AlignVCenter);
+  return {};
+}
+
+GridView::GridView(const QString& name, const QString& caption, const CellTable& grid,
+                   std::span<const int> widths, QWidget* parent)
+    : QTableView(parent), grid_(grid), widths_(widths), model_(grid) {
+  setObjectName(name);
+  setAccessibleName(caption);
+  theme::keep_font(*this);
+  setModel(&model_);
+  setItemDelegate(new EntryDelegate(*this, EntryDelegate::CurrentCell::kFramed));
+  setSelectionMode(SingleSelection);
+  setSelectionBehavior(SelectRows);
+  setEditTriggers(NoEditTriggers);
+  setAlternatingRowColors(true);
+  setHorizontalScrollMode(ScrollPerPixel);
+  setCursor(Qt::ArrowCursor);
+  setWordWrap(false);
+  setTabKeyNavigation(false);
+  viewport()->setMouseTracking(true);
+  verticalHeader()->hide();
+  verticalHeader()->setDefaultSectionSize(fontMetrics().height() * 7 / 4);
+  horizontalHeader()->setHighlightSections(false);
+  horizontalHeader()->setStretchLastSection(true);
+}
+
+void GridView::apply() {
+  applying_ = true;
+  model_.refresh();
+  const int row = model_.table_row(grid_.current_row);
+  const QModelIndex wanted = row < 0 ? QModelIndex() : model_.index(row, std::max(grid_.current_column, 0));
+  if (currentIndex() != wanted || (row >= 0 && !selectionModel()->isRowSelected(row))) {
+    if (row < 0) {
+      clearSelection();
+      setCurrentIndex({});
+    } else {
+      setCurrentIndex(wanted);
+      scrollTo(wanted);
+    }
+  }
+  applying_ = false;
+  share_room();
+}
+
+void GridView::fit_columns() {
+  for (int column = 0; column < grid_.columns; ++column) {
+    const std::size_t index = static_cast<std::size_t>(column);
+    const int given = index < widths_.size() ? theme::pixels(widths_[index]) : 0;
+    setColumnWidth(column, std::max(given, header_width(column)));
+  }
+}
+
+void GridView::share_columns() {
+  sharing_ = Sharing::kOn;
+  horizontalHeader()->setStretchLastSection(false);
+  connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this] {
+    if (!applying_) sharing_ = Sharing::kOff;
+  });
+}
+
+int GridView::header_width(int column) const {
+  return fontMetrics().horizontalAdvance(QString::fromStdString(grid_.cell(0, column))) + kPadding;
+}
+
+/// Records come from other players too: of a very long table only the beginning is measured, and of a very
+/// long text.
+int GridView::wanted_width(int column) const {
+  int width = 0;
+  for (int row = 0; row < std::min(model_.rowCount(), kMeasuredRows); ++row) {
+    const std::string& text = grid_.cell(model_.grid_row(row), column);
+    const QString measured = QString::fromStdString(text.substr(0, kMeasuredBytes));
+    width = std::max(width, fontMetrics().horizontalAdvance(measured) + kPadding);
+  }
+  return width;
+}
+
+void GridView::share_room() {
+  if (sharing_ == Sharing::kOff || grid_.columns == 0 || !isVisible()) return;
+  std::vector<int> least;
+  std::vector<int> widths;
+  for (int column = 0; column < grid_.columns; ++column) {
+    least.push_back(header_width(column));
+    widths.push_back(std::max(least.back(), wanted_width(column)));
+  }
+  int spare = viewport()->width() - std::accumulate(widths.begin(), widths.end(), 0);
+  for (; spare < 0; ++spare) {
+    int* longest = nullptr;
+    for (std::size_t column = 0; column < widths.size(); ++column) {
+      int& width = widths[column];
+      if (width > least[column] && (longest == nullptr || width > *longest)) longest = &width;
+    }
+    if (longest == nullptr) break;
+    --*longest;
+  }
+  applying_ = true;
+  for (int column = 0; column < grid_.columns; ++column) {
+    const int share = std::max(spare, 0) / (grid_.columns - column);
+    spare -= share;
+    setColumnWidth(column, widths[static_cast<std::size_t>(column)] + share);
+  }
+  applying_ = false;
+}
+
+void GridView::paintEvent(QPaintEvent* event) {
+  QTableView::paintEvent(event);
+  if (model_.rowCount() > 0 || empty_text_.isEmpty()) return;
+  QPainter painter(viewport());
+  painter.setPen(theme::kQuietText);
+  painter.drawText(viewport()->rect(), Qt::AlignCenter | Qt::TextWordWrap, empty_text_);
+}
+
+void GridView::showEvent(QShowEvent* event) {
+  QTableView::showEvent(event);
+  share_room();
+}
+
+void GridView::resizeEvent(QResizeEvent* event) {
+  QTableView::resizeEvent(event);
+  share_room();
+}
+
+void GridView::mousePressEvent(QMouseEvent* event) {
+  const QModelIndex index = indexAt(event->position().toPoint());
+  setFocus(Qt::MouseFocusReason);
+  if (event->button() == Qt::LeftButton && index.isValid() && on_click) {
+    on_click(model_.grid_row(index.row()), index.column());
+  }
+}
+
+void GridView::mouseMoveEvent(QMouseEvent* event) {
+  const QModelIndex index = indexAt(event->position().toPoint());
+  const bool acts =
+      model_.cycles && index.isValid() && model_.cycles(model_.grid_row(index.row()), index.column());
+  viewport()->setCursor(acts ? Qt::PointingHandCursor : Qt::ArrowCursor);
+}
+
+void GridView::keyPressEvent(QKeyEvent* event) {
+  const bool activates =
+      event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter || event->key() == Qt::Key_Space;
+  const QModelIndex before = currentIndex();
+  if (activates) {
+    if (before.isValid() && on_click) on_click(model_.grid_row(before.row()), before.column());
+    return;
+  }
+  QTableView::keyPressEvent(event);
+  const QModelIndex now = currentIndex();
+  if (now.isValid() && now != before && on_move) on_move(model_.grid_row(now.row()), now.column());
+}
+
+}  // namespace vorlund

@@ -1,0 +1,70 @@
+// A label that acts: looks, focuses and speaks to assistive tools as a button, and can be dragged.
+#pragma once
+
+#include <QAbstractButton>
+#include <QPoint>
+#include <functional>
+
+#include "panes/controls.h"
+
+namespace vorlund {
+
+/// The mouse event of the model that a Qt event stands for, at a position within the control.
+MouseEvent to_model(Qt::MouseButton button, Qt::KeyboardModifiers modifiers, const QPointF& position);
+
+/// Shows one Label of the model and hands its presses and releases back.
+class ActionLabel : public QAbstractButton {
+ public:
+  enum class Look {
+    kPlate,    ///< on a background picture: the main menu, group labels
+    kButton,   ///< a command of a pane
+    kPrimary,  ///< the main command of a pane
+    kRow,      ///< one of many entries
+    kHelp,     ///< a text of as many lines as it needs
+  };
+  enum class Drag { kNo, kRightButton };
+
+  ActionLabel(const QString& name, Look look, QWidget* parent, Drag drag = Drag::kNo);
+
+  /// Called for each press, and for each release that commands or ends a drag. The left button inside the
+  /// label, Enter and Space command; a label that can be dragged also hands on the middle button inside it,
+  /// and the right one wherever it is released. Further buttons do nothing.
+  std::function<void(const MouseEvent&)> on_press;
+  std::function<void(const MouseEvent&)> on_release;
+  std::function<void()> on_double_click;
+
+  /// Takes over caption, colour and visibility; the place is the owner's business.
+  void apply(const Label& label);
+
+  QSize sizeHint() const override;
+  int heightForWidth(int width) const override;
+
+ protected:
+  bool event(QEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void keyReleaseEvent(QKeyEvent* event) override;
+  void enterEvent(QEnterEvent* event) override;
+  void leaveEvent(QEvent* event) override;
+
+ private:
+  void command(Qt::KeyboardModifiers modifiers);
+  QColor fill() const;
+  QRect text_area() const;
+  QFont shown_font() const;
+  bool marked() const;
+  bool wraps() const;
+
+  Look look_;
+  Drag drag_;
+  QColor text_colour_;
+  Qt::MouseButton held_ = Qt::NoButton;
+  QPointF pressed_at_;
+  QPoint place_at_press_;
+};
+
+}  // namespace vorlund

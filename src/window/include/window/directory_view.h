@@ -1,0 +1,24 @@
+// The confirmation of the game directory on screen.
+#pragma once
+
+#include <QListWidget>
+
+#include "window/pane_view.h"
+
+namespace vorlund {
+
+/// View of GameDirectory: the path, the folder tree around it, and the label that confirms it.
+class DirectoryView : public PaneView {
+ public:
+  DirectoryView(Form1& form, const Perform& perform, QWidget* parent);
+  void apply() override;
+
+ private:
+  void list_folders();
+
+  QWidget* parent_;
+  QWidget* panel_;
+  QListWidget* folders_;
+};
+
+}  // namespace vorlund

@@ -1,0 +1,90 @@
+// Shows a table of cells: the header row as the table's header, hidden rows left out.
+#pragma once
+
+#include <QAbstractTableModel>
+#include <QTableView>
+#include <functional>
+#include <span>
+#include <vector>
+
+#include "base/cell_table.h"
+
+namespace vorlund {
+
+/// The shown data rows of a table as a Qt model; nothing is copied.
+class GridModel : public QAbstractTableModel {
+ public:
+  explicit GridModel(const CellTable& grid, QObject* parent = nullptr)
+      : QAbstractTableModel(parent), grid_(grid) {}
+
+  /// Takes over what has changed in the grid.
+  void refresh();
+
+  /// Grid row of a table row, and table row of a grid row (-1 where it is hidden).
+  int grid_row(int table_row) const;
+  int table_row(int grid_row) const;
+
+  int rowCount(const QModelIndex& parent = {}) const override;
+  int columnCount(const QModelIndex& parent = {}) const override;
+  QVariant data(const QModelIndex& index, int role) const override;
+  QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+  /// Says of a cell whether a click cycles its value; such cells look as if they did.
+  std::function<bool(int row, int column)> cycles;
+
+ private:
+  const CellTable& grid_;
+  std::vector<int> shown_;
+  int columns_ = 0;
+};
+
+/// A table whose current cell is the grid's. Clicks, arrow keys, Enter and Space are handed back.
+class GridView : public QTableView {
+ public:
+  /// `caption` is what assistive tools call the table; `widths` are those of its first columns, in twips. The
+  /// grid and the widths outlive the view.
+  GridView(const QString& name, const QString& caption, const CellTable& grid, std::span<const int> widths,
+           QWidget* parent);
+
+  /// The current cell was moved with the keyboard.
+  std::function<void(int row, int column)> on_move;
+  /// A cell was clicked, or Enter or Space pressed on it; row 0 is the header.
+  std::function<void(int row, int column)> on_click;
+
+  GridModel& grid_model() { return model_; }
+
+  void apply();
+
+  /// Minimum column widths in pixels fit for the content, on top of the grid's own widths.
+  void fit_columns();
+
+  /// From now on shares the room among the columns by what they hold: headers stay whole, the longest texts
+  /// give way first. A column that the user sizes ends this.
+  void share_columns();
+
+  /// Shown in place of rows while there is none.
+  void set_empty_text(const QString& text) { empty_text_ = text; }
+
+ protected:
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void showEvent(QShowEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  enum class Sharing { kOff, kOn };
+  void share_room();
+  int header_width(int column) const;
+  int wanted_width(int column) const;
+
+  const CellTable& grid_;
+  std::span<const int> widths_;
+  GridModel model_;
+  QString empty_text_;
+  bool applying_ = false;
+  Sharing sharing_ = Sharing::kOff;
+};
+
+}  // namespace vorlund

@@ -1,0 +1,92 @@
+// The main window: shows the window object's state and hands events to it.
+#pragma once
+
+#include <QElapsedTimer>
+#include <QLabel>
+#include <QPixmap>
+#include <QProgressBar>
+#include <QWidget>
+#include <exception>
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include "disk/status.h"
+#include "panes/form1.h"
+#include "window/focus_keeper.h"
+#include "window/pane_frame.h"
+#include "window/pane_view.h"
+
+namespace vorlund {
+
+class MenuView;
+
+/// The one window of the program. Every event runs a handler of Form1 and then shows the state it left.
+class MainWindow : public QWidget, private Status {
+ public:
+  /// `files` outlives the window. `report_error` shows an error to the user before the program ends.
+  MainWindow(FileSystem& files, std::function<void(const QString&)> report_error);
+  ~MainWindow() override;
+
+  /// Runs start-up and shows the window; false when start-up failed and was reported.
+  bool start();
+
+  Form1& form() { return *form_; }
+
+  /// Runs a handler and shows the state it left. An exception is reported, and the program ends with exit
+  /// code 1. While a handler runs no other is started; what is clicked and typed while it works is dropped.
+  void perform(const std::function<void()>& handler);
+
+  /// True once an error has ended the program.
+  bool failed() const { return failed_; }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  bool focusNextPrevChild(bool next) override { return focus_.step(next); }
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  void repaint() override;
+  void progress(const Progress& progress) override;
+  void pulse() override;
+
+  void add_views();
+  void apply();
+  void follow_panes();
+  void place_status_bar();
+  void follow_requests();
+  void report(const std::exception& error);
+  void keep_alive();
+  void begin_working();
+  void end_working();
+
+  std::function<void(const QString&)> report_error_;
+  std::unique_ptr<Form1> form_;
+  std::vector<std::unique_ptr<PaneView>> views_;
+  MenuView* menu_ = nullptr;
+  std::vector<std::pair<PaneFrame*, const Frame*>> frames_;  ///< panes, each with its data
+  std::vector<int> shown_order_;
+  FocusKeeper focus_{*this};
+  QWidget* status_bar_ = nullptr;
+  QLabel* status_text_ = nullptr;
+  QProgressBar* progress_bar_ = nullptr;
+  QLabel* progress_text_ = nullptr;
+  QElapsedTimer painted_;
+  QPixmap background_;
+  QSize background_for_;
+  bool running_ = false;
+  bool working_ = false;  ///< the running handler has asked for the screen: it is a long one
+  bool close_wanted_ = false;
+  bool failed_ = false;
+  bool started_ = false;
+  bool pressed_ = false;
+  QPointF pressed_at_;
+  QPoint place_at_press_;
+};
+
+}  // namespace vorlund

@@ -1,0 +1,31 @@
+// The main window's own labels: title, menu, commands, and the labels that bring the tables back.
+#pragma once
+
+#include "window/pane_view.h"
+
+namespace vorlund {
+
+/// View of the labels that stand on the main window itself.
+class MenuView : public PaneView {
+ public:
+  MenuView(Form1& form, const Perform& perform, QWidget* parent);
+  void apply() override;
+
+  /// The labels that must stay reachable in front of the selection pane.
+  void raise_table_labels();
+
+ private:
+  QLabel* title(const char* name, const Label& data, double size);
+
+  /// A label that the right button drags; it stands where the model places it.
+  ActionLabel* dragged(const QString& name, const Label& data);
+  void dragged(const char* name, const Label& data, Press release);
+
+  QWidget* parent_;
+  QLabel* title_;
+  QLabel* version_;
+  ActionLabel* show_table_;
+  ActionLabel* raise_table_;
+};
+
+}  // namespace vorlund

@@ -1,0 +1,58 @@
+// A pane of the main window: a panel with a title that its free area moves or hides.
+#pragma once
+
+#include <QVBoxLayout>
+#include <QWidget>
+#include <functional>
+
+#include "panes/controls.h"
+
+namespace vorlund {
+
+/// Shows one Frame of the model. Its content is laid out below the title.
+class PaneFrame : public QWidget {
+ public:
+  /// What a press and release on the free area does.
+  enum class FreeArea { kMoves, kHides };
+
+  PaneFrame(const QString& name, FreeArea free_area, QWidget* parent);
+
+  /// Called with the free area's presses and releases: those that move the pane, or of a click that hides it.
+  std::function<void(const MouseEvent&)> on_press;
+  std::function<void(const MouseEvent&)> on_release;
+
+  /// Layout that the content goes into.
+  QVBoxLayout* content() const { return content_; }
+
+  /// What lies below the title.
+  QRect body() const { return rect().adjusted(1, title_height() + 1, -1, -1); }
+
+  /// Takes over caption, visibility and place. A pane never hangs out of its parent at the right or the
+  /// bottom with its title out of reach.
+  void apply(const Frame& frame);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+
+ private:
+  QPoint within_reach(const QPoint& corner, int width) const;
+  QPoint dragged_to(const QMouseEvent& event) const;
+
+  int title_height() const;
+
+  FreeArea free_area_;
+  QVBoxLayout* content_;
+  QString caption_;
+  bool pressed_ = false;
+  QPointF pressed_at_;
+  QPoint place_at_press_;
+};
+
+/// Makes a pane as large as the room beside the main menu, `most` pixels at most. Where it stands is left
+/// alone.
+void fit_to_room(Frame& frame, const QWidget& parent, const QSize& most);
+
+}  // namespace vorlund

@@ -1,0 +1,46 @@
+// Shows a picture control: decodes the picture at the size it is shown and keeps its shape.
+#pragma once
+
+#include <QPixmap>
+#include <QWidget>
+#include <functional>
+
+#include "panes/picture.h"
+
+namespace vorlund {
+
+/// How a picture fills the area it is shown in.
+enum class PictureFit {
+  kWhole,  ///< all of it is seen, centred
+  kCover,  ///< it covers the area, cut where its shape differs
+};
+
+/// The picture as it is shown in `size` pixels: `picture`, else `fallback` where the former is none or can't
+/// be decoded, else null. Decoded no larger than needed.
+QPixmap decode_picture(const Picture& picture, const QSize& size, PictureFit fit);
+
+/// A widget for one Picture of the model; a click is handed back.
+class PictureView : public QWidget {
+ public:
+  PictureView(const QString& name, PictureFit fit, QWidget* parent);
+
+  std::function<void()> on_click;
+
+  void apply(const Picture& picture);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  PictureFit fit_;
+  Picture picture_;
+  QPixmap shown_;
+  QSize shown_for_;
+  bool pressed_ = false;
+};
+
+}  // namespace vorlund

@@ -1,0 +1,161 @@
+// Declares the controls of the menu editor and lays them out.
+#include "window/menu_editor_view.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLineEdit>
+#include <QPainter>
+#include <QScrollArea>
+#include <QVBoxLayout>
+#include <array>
+
+#include "window/theme.h"
+
+namespace vorlund {
+
+namespace {
+
+constexpr std::array<const char*, 3> kMenuNames = {"British menu, picplnb.mnu", "American menu, picplna.mnu",
+                                                   "German menu, picplng.mnu"};
+constexpr std::array<const char*, 4> kHeadings = {"", "Name in the menu", "Length",
+                                                  "Bytes carried unchanged"};
+constexpr int kPlaneNamesWidth = 168;
+constexpr int kSharedEntries = 9;  // the German menu has two more
+constexpr QSize kMostSize{1080, 540};
+
+/// The panel that holds the country buttons.
+class MenuChoicePanel : public QWidget {
+ public:
+  using QWidget::QWidget;
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    QPainter painter(this);
+    theme::draw_plate(painter, rect(), theme::kPanelTitle, QColor(0, 0, 0, 0));
+  }
+};
+
+}  // namespace
+
+MenuEditorView::MenuEditorView(Form1& form, const Perform& perform, QWidget* parent)
+    : PaneView(form, perform) {
+  const MenuEditor& pane = form.menu_editor;
+  clicked_frame("PMenFrame", pane.PMenFrame, parent, &Form1::PMenFrame_Click);
+  auto* countries = make_countries();
+  auto* header = new QHBoxLayout;
+  header->addWidget(note("Header:"));
+  header->addWidget(text("hedlab", pane.hedlab, Tone::kQuiet), 1);
+  auto* both = new QHBoxLayout;
+  both->setSpacing(14);
+  both->addWidget(make_entries(), 1);
+  both->addLayout(make_names());
+  auto* advice = hint("MenuHint", [] {
+    return QString(
+        "Shown is the menu that was read last. A button only says which menu is read or written next: "
+        "\"Process!\" in the aircraft pane reads, renames and writes all three.");
+  });
+  frame_->content()->addWidget(countries);
+  frame_->content()->addLayout(header);
+  frame_->content()->addLayout(both, 1);
+  frame_->content()->addWidget(advice);
+  // Whoever clicks on a text or beside a name box does not mean to hide the pane.
+  for (QWidget* part : frame_->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+    part->setAttribute(Qt::WA_NoMousePropagation);
+    part->setCursor(Qt::ArrowCursor);
+  }
+}
+
+QWidget* MenuEditorView::make_countries() {
+  const MenuEditor& pane = form_.menu_editor;
+  auto* panel = new MenuChoicePanel(frame_);
+  panel->setObjectName("MnuFrame");
+  stand_on(panel);
+  auto* caption = note({}, Tone::kPlain);
+  caption->setObjectName("MnuFrameCaption");
+  also([panel, caption, &pane] {
+    caption->setText(QString::fromStdString(pane.MnuFrame.caption));
+    panel->setAccessibleName(caption->text());
+    panel->setVisible(pane.MnuFrame.visible);
+  });
+  auto* row = new QHBoxLayout(panel);
+  row->setContentsMargins(12, 8, 12, 8);
+  row->setSpacing(20);
+  row->addWidget(caption, 1);
+  for (std::size_t index = 0; index < kMenuNames.size(); ++index) {
+    auto* button =
+        option("CountryBut", static_cast<int>(index), pane.CountryBut[index], &Form1::CountryBut_Click);
+    button->setToolTip(kMenuNames[index]);
+    row->addWidget(button);
+  }
+  stand_on(frame_);
+  return panel;
+}
+
+QWidget* MenuEditorView::make_entries() {
+  auto* area = new QScrollArea(frame_);
+  area->setFrameShape(QFrame::NoFrame);
+  area->setFocusPolicy(Qt::NoFocus);
+  area->setWidgetResizable(true);
+  area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  area->setStyleSheet("QScrollArea { background: transparent; }");
+  auto* entries = new QWidget;
+  area->setWidget(entries);
+  entries->setAutoFillBackground(false);
+  stand_on(entries);
+  auto* grid = new QGridLayout(entries);
+  grid->setContentsMargins(0, 0, 6, 0);
+  grid->setHorizontalSpacing(10);
+  grid->setVerticalSpacing(3);
+  for (std::size_t column = 1; column < kHeadings.size(); ++column) {
+    grid->addWidget(note(kHeadings[column]), 0, static_cast<int>(column));
+  }
+  constexpr int kRows = static_cast<int>(PictureMenu::kEntries);
+  for (int index = 0; index < kRows; ++index) make_entry(grid, index);
+  grid->setColumnStretch(1, 3);
+  grid->setColumnStretch(3, 4);
+  grid->setRowStretch(kRows + 1, 1);
+  stand_on(frame_);
+  return area;
+}
+
+void MenuEditorView::make_entry(QGridLayout* grid, int index) {
+  const MenuEditor& pane = form_.menu_editor;
+  const auto at = static_cast<std::size_t>(index);
+  auto* number = note(QString::number(index + 1) + (index < kSharedEntries ? "" : " (G)"));
+  if (index >= kSharedEntries) number->setToolTip("Only the German menu has this entry");
+  auto* name = new QLineEdit(board_);
+  name->setObjectName(element_name("bmnutb", index));
+  name->setAccessibleName(QStringLiteral("Name of entry %1").arg(index + 1));
+  name->setMaxLength(static_cast<int>(PictureMenu::kLongestName));
+  QObject::connect(name, &QLineEdit::textEdited, frame_, [this, index](const QString& typed) {
+    run(&Form1::bmnutb_Change, index, typed.toStdString());
+  });
+  also([name, &shown = pane.bmnutb[at].text] {
+    const QString wanted = QString::fromStdString(shown);
+    if (name->text() != wanted) name->setText(wanted);
+  });
+  grid->addWidget(number, index + 1, 0);
+  grid->addWidget(name, index + 1, 1);
+  grid->addWidget(text(element_name("mlen", index), pane.mlen[at], Tone::kPlain), index + 1, 2);
+  grid->addWidget(text(element_name("position", index), pane.position[at], Tone::kQuiet), index + 1, 3);
+}
+
+QLayout* MenuEditorView::make_names() {
+  auto* list =
+      new ListView("PNameList", "Display names by record", form_.plane.pilot_names.PNameList, frame_);
+  list->set_empty_text("\"Make Aircraft Settings\" reads the names");
+  list->setFixedWidth(kPlaneNamesWidth);
+  also([list] { list->apply(-1); });
+  auto* names = new QVBoxLayout;
+  names->setSpacing(4);
+  names->addWidget(note("Display names"));
+  names->addWidget(list, 1);
+  return names;
+}
+
+void MenuEditorView::apply() {
+  fit_to_room(form_.menu_editor.PMenFrame, *frame_->parentWidget(), kMostSize);
+  PaneView::apply();
+}
+
+}  // namespace vorlund

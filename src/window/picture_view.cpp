@@ -1,0 +1,111 @@
+// Decoding and painting of pictures.
+#include "window/picture_view.h"
+
+#include <QBuffer>
+#include <QImageReader>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+
+#include "window/theme.h"
+
+namespace vorlund {
+
+namespace {
+
+constexpr int kLargestImageMegabytes = 400;
+
+QImage decode(const PictureFile& file, const QSize& size, PictureFit fit) {
+  if (!file.bytes || size.isEmpty()) return {};
+  QByteArray bytes = QByteArray::fromRawData(file.bytes->data(), static_cast<qsizetype>(file.bytes->size()));
+  QBuffer buffer(&bytes);
+  QImageReader reader(&buffer);
+  reader.setDecideFormatFromContent(true);
+  reader.setAutoTransform(true);
+  QImageReader::setAllocationLimit(kLargestImageMegabytes);
+  const Qt::AspectRatioMode mode =
+      fit == PictureFit::kCover ? Qt::KeepAspectRatioByExpanding : Qt::KeepAspectRatio;
+  const QSize natural = reader.size();
+  const QSize wanted = natural.scaled(size, mode).expandedTo(QSize(1, 1));
+  const bool smaller = natural.isValid() && wanted.width() < natural.width();
+  if (smaller && reader.supportsOption(QImageIOHandler::ScaledSize)) reader.setScaledSize(wanted);
+  QImage image = reader.read();
+  if (image.isNull()) return image;
+  // Smooth scaling looks at every pixel; of a picture far larger than shown, four samples for each shown
+  // pixel do.
+  if (image.width() > 4 * wanted.width()) image = image.scaled(2 * wanted);
+  return image.scaled(size, mode, Qt::SmoothTransformation);
+}
+
+}  // namespace
+
+QPixmap decode_picture(const Picture& picture, const QSize& size, PictureFit fit) {
+  QImage image = decode(picture.picture, size, fit);
+  if (image.isNull()) image = decode(picture.fallback, size, fit);
+  return QPixmap::fromImage(image);
+}
+
+PictureView::PictureView(const QString& name, PictureFit fit, QWidget* parent) : QWidget(parent), fit_(fit) {
+  setObjectName(name);
+  setFocusPolicy(Qt::StrongFocus);
+}
+
+void PictureView::apply(const Picture& picture) {
+  const bool same =
+      picture.picture.bytes == picture_.picture.bytes && picture.fallback.bytes == picture_.fallback.bytes;
+  if (picture.bordered != picture_.bordered) update();
+  picture_ = picture;
+  if (!same) {
+    shown_for_ = QSize();
+    update();
+  }
+  setVisible(picture.visible);
+}
+
+void PictureView::paintEvent(QPaintEvent*) {
+  const QSize device = (QSizeF(size()) * devicePixelRatioF()).toSize();
+  if (shown_for_ != device) {
+    shown_ = decode_picture(picture_, device, fit_);
+    shown_.setDevicePixelRatio(devicePixelRatioF());
+    shown_for_ = device;
+  }
+  QPainter painter(this);
+  QRectF drawn = rect();
+  if (!shown_.isNull()) {
+    const QSizeF size = shown_.deviceIndependentSize();
+    drawn = QRectF(QPointF((width() - size.width()) / 2, (height() - size.height()) / 2), size);
+    painter.drawPixmap(drawn.topLeft(), shown_);
+  }
+  if (picture_.bordered) {
+    painter.setPen(theme::kEdge);
+    painter.drawRect(drawn.adjusted(0.5, 0.5, -0.5, -0.5));
+  }
+  if (hasFocus()) theme::draw_plate(painter, rect(), QColor(0, 0, 0, 0), theme::kAccent);
+}
+
+void PictureView::mousePressEvent(QMouseEvent* event) {
+  pressed_ = event->button() == Qt::LeftButton;
+}
+
+void PictureView::mouseReleaseEvent(QMouseEvent* event) {
+  const bool click = pressed_ && rect().contains(event->position().toPoint());
+  pressed_ = false;
+  if (click && on_click) on_click();
+}
+
+void PictureView::mouseDoubleClickEvent(QMouseEvent*) {
+  // The second press of a double click on what opened this picture must not choose it.
+  pressed_ = false;
+}
+
+void PictureView::keyPressEvent(QKeyEvent* event) {
+  const bool activates =
+      event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter || event->key() == Qt::Key_Space;
+  if (activates && on_click) {
+    on_click();
+  } else {
+    QWidget::keyPressEvent(event);
+  }
+}
+
+}  // namespace vorlund

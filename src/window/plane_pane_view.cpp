@@ -1,0 +1,146 @@
+// Declares the controls of the aircraft pane and lays them out.
+#include "window/plane_pane_view.h"
+
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QVBoxLayout>
+
+namespace vorlund {
+
+namespace {
+
+constexpr int kListWidth = 164;
+constexpr QSize kMostSize{1320, 1000};
+
+}  // namespace
+
+PlanePaneView::PlanePaneView(Form1& form, const Perform& perform, QWidget* parent) : PaneView(form, perform) {
+  const PlanePane& pane = form.plane;
+  dragged_frame("Frame1", pane.Frame1, parent, &Form1::Frame1_MouseDown, &Form1::Frame1_MouseUp);
+  static const Label kMenus{"Picture menus..."};
+  auto* group_heading = text("Label24", pane.Label24, Tone::kQuiet);
+  auto* group = text("Label25(0)", pane.Label25[0], Tone::kStrong);
+  auto* show_all = command("Label30", pane.Label30, Look::kButton, &Form1::Label30_Click,
+                           "Shows all thirty slots, or only those that hold something");
+  auto* menus = command("PictureMenus", kMenus, Look::kButton, &Form1::PictureMenus_Click,
+                        "Shows the names in the game's plane-picture menus");
+  auto* heading = new QHBoxLayout;
+  heading->addWidget(group_heading);
+  heading->addWidget(group);
+  heading->addStretch(1);
+  heading->addWidget(menus);
+  heading->addWidget(show_all);
+
+  frame_->content()->addLayout(heading);
+  frame_->content()->addLayout(lay_out_options());
+  frame_->content()->addLayout(lay_out_table(make_table()), 1);
+  frame_->content()->addWidget(hint("OptionHint", [this] { return advice(); }));
+  frame_->content()->addLayout(lay_out_commands());
+}
+
+GridView* PlanePaneView::make_table() {
+  auto* table =
+      new GridView("G1", "Skin and flight model table", form_.plane.G1, PlanePane::kColumnWidths, frame_);
+  const auto press = [this](int row, int column) { run(&Form1::G1_MouseDown, row, column, MouseEvent()); };
+  table->on_click = press;
+  table->on_move = [this](int row, int column) { run(&Form1::G1_Move, row, column); };
+  table->horizontalHeader()->setSectionsClickable(true);
+  QObject::connect(table->horizontalHeader(), &QHeaderView::sectionPressed, table,
+                   [press](int column) { press(0, column); });
+  table->grid_model().cycles = [this](int row, int column) { return acts(row, column); };
+  table->share_columns();
+  table->set_empty_text("No slot is in use yet: \"Show All\" shows all thirty");
+  also([table] { table->apply(); });
+  return table;
+}
+
+QLayout* PlanePaneView::lay_out_options() {
+  auto* options = new QHBoxLayout;
+  options->setSpacing(22);
+  for (const PlaneOption option_kind :
+       {PlaneOption::kFindFlightModel, PlaneOption::kEditMode, PlaneOption::kMatchSkin}) {
+    const int index = static_cast<int>(option_kind);
+    const Choice& data = form_.plane.Option1[static_cast<std::size_t>(index)];
+    options->addWidget(option("Option1", index, data, &Form1::Option1_Click));
+  }
+  options->addStretch(1);
+  return options;
+}
+
+QLayout* PlanePaneView::lay_out_table(GridView* table) {
+  const PlanePane& pane = form_.plane;
+  auto* heading = note({});
+  heading->setObjectName("ListHeading");
+  also([heading, &pane] {
+    heading->setText(pane.List3.visible   ? "Plane codes"
+                     : pane.List2.visible ? "Flight models of"
+                                          : "No flight models");
+  });
+  auto* group = text("Label25(1)", pane.Label25[1], Tone::kStrong);
+  also([group, &pane] { group->setVisible(pane.Label25[1].visible && pane.List2.visible); });
+  auto* flight_models = list("List2", "Flight models", pane.List2, &Form1::List2_Click,
+                             "\"Make Aircraft Settings\" in the menu lists the flight models");
+  auto* plane_codes = list("List3", "Plane codes", pane.List3, &Form1::List3_Click, {});
+
+  auto* lists = new QVBoxLayout;
+  lists->setSpacing(4);
+  lists->addWidget(heading);
+  lists->addWidget(group);
+  for (ListView* view : {flight_models, plane_codes}) {
+    view->setFixedWidth(kListWidth);
+    lists->addWidget(view, 1);
+  }
+  auto* both = new QHBoxLayout;
+  both->setSpacing(12);
+  both->addWidget(table, 1);
+  both->addLayout(lists);
+  return both;
+}
+
+QLayout* PlanePaneView::lay_out_commands() {
+  const PlanePane& pane = form_.plane;
+  auto* commands = new QHBoxLayout;
+  commands->addWidget(command("Label8", pane.Label8, Look::kPrimary, &Form1::Label8_Click), 2);
+  commands->addWidget(command("Label3", pane.Label3, Look::kButton, &Form1::Label3_Click), 1);
+  commands->addWidget(command("Label14", form_.save_pane.Label14, Look::kButton, &Form1::Label14_Click), 1);
+  commands->addWidget(command("Label13", form_.load_pane.Label13, Look::kButton, &Form1::Label13_Click), 1);
+  commands->addWidget(command("Label10", 0, pane.Label10, Look::kButton, &Form1::Label10_Click), 1);
+  return commands;
+}
+
+bool PlanePaneView::acts(int row, int column) const {
+  if (row == 0 || !form_.plane.is_set(PlaneOption::kEditMode)) return false;
+  switch (column) {
+    case PlaneTable::kRegion:
+    case PlaneTable::kSkinFolder:
+      return true;
+    case PlaneTable::kSide:
+    case PlaneTable::kFlyable:
+    case PlaneTable::kRole:
+    case PlaneTable::kFuel:
+      return !form_.plane.G1.cell(row, column).empty();
+    default:
+      return false;
+  }
+}
+
+QString PlanePaneView::advice() const {
+  if (form_.plane.is_set(PlaneOption::kEditMode)) {
+    return "Click a golden value to change it, a region or skin to see the skins that fit; a code sets "
+           "PlnDat.";
+  }
+  if (form_.plane.is_set(PlaneOption::kFindFlightModel)) {
+    return "Click a slot in the table, then the flight model that it shall have.";
+  }
+  if (form_.plane.is_set(PlaneOption::kMatchSkin)) {
+    return "Click a flight model to see the skins whose names are like its own.";
+  }
+  return "Choose above what a click in the table or in the list does.";
+}
+
+void PlanePaneView::apply() {
+  fit_to_room(form_.plane.Frame1, *frame_->parentWidget(), kMostSize);
+  PaneView::apply();
+}
+
+}  // namespace vorlund

@@ -1,0 +1,82 @@
+// Declares the controls of the pane of possible skins and lays them out.
+#include "window/possible_skins_view.h"
+
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+namespace vorlund {
+
+namespace {
+
+constexpr QSize kMostSize{1320, 1000};
+
+QHBoxLayout* in_a_row(const std::vector<QWidget*>& widgets) {
+  auto* row = new QHBoxLayout;
+  for (QWidget* widget : widgets) row->addWidget(widget);
+  row->addStretch(1);
+  return row;
+}
+
+}  // namespace
+
+PossibleSkinsView::PossibleSkinsView(Form1& form, const Perform& perform, QWidget* parent)
+    : PaneView(form, perform) {
+  const PossibleSkins& pane = form.possible_skins;
+  dragged_frame("Frame4", pane.Frame4, parent, &Form1::Frame4_MouseDown, &Form1::Frame4_MouseUp);
+  auto* both = new QHBoxLayout;
+  both->setSpacing(18);
+  both->addLayout(lay_out_list(), 2);
+  both->addLayout(lay_out_picture(), 5);
+  frame_->content()->addLayout(both, 1);
+  frame_->content()->addWidget(command("Label33", pane.Label33, Look::kHelp, &Form1::Label33_Click));
+}
+
+QLayout* PossibleSkinsView::lay_out_list() {
+  const PossibleSkins& pane = form_.possible_skins;
+  const Label& number = form_.desk.labels.SkinLab3;
+  auto* wanted = text("Label38", pane.Label38, Tone::kHeading);
+  auto* slot_heading = text("Label36", pane.Label36, Tone::kQuiet);
+  auto* slot = text("Label37", pane.Label37, Tone::kStrong);
+  auto* number_heading = note("PlnDat:");
+  also([number_heading, &number] { number_heading->setVisible(!number.caption.empty()); });
+  auto* plane_number = text("SkinLab3", number, Tone::kStrong);
+  auto* match_heading = text("Label34", pane.Label34, Tone::kQuiet);
+  auto* match = text("Label35", pane.Label35, Tone::kStrong);
+  auto* skins = list("List4", "Possible skins", pane.List4, &Form1::List4_Click, "No skins are listed");
+
+  auto* left = new QVBoxLayout;
+  left->setSpacing(6);
+  left->addWidget(wanted);
+  left->addLayout(in_a_row({slot_heading, slot, number_heading, plane_number}));
+  left->addLayout(in_a_row({match_heading, match}));
+  left->addSpacing(6);
+  left->addWidget(note("Possible skins"));
+  left->addWidget(skins, 1);
+  return left;
+}
+
+QLayout* PossibleSkinsView::lay_out_picture() {
+  const PossibleSkins& pane = form_.possible_skins;
+  auto* group = command("Label31", pane.Label31, Look::kButton, &Form1::Label31_Click, "Empties the list");
+  also([group, &pane] { group->setVisible(pane.Label31.visible && !pane.Label31.caption.empty()); });
+  auto* folder = text("Label32", pane.Label32, Tone::kHeading);
+  auto* shown = picture("Image4", pane.Image4, PictureFit::kWhole, "Picture of the skin; a click chooses it",
+                        &Form1::Image4_Click);
+  shown->setCursor(Qt::PointingHandCursor);
+
+  auto* viewed = new QHBoxLayout;
+  viewed->setSpacing(12);
+  viewed->addWidget(group);
+  viewed->addWidget(folder, 1);
+  auto* right = new QVBoxLayout;
+  right->addLayout(viewed);
+  right->addWidget(shown, 1);
+  return right;
+}
+
+void PossibleSkinsView::apply() {
+  fit_to_room(form_.possible_skins.Frame4, *frame_->parentWidget(), kMostSize);
+  PaneView::apply();
+}
+
+}  // namespace vorlund

@@ -1,0 +1,47 @@
+// Declares the controls of the save pane and lays them out.
+#include "window/save_pane_view.h"
+
+#include <QHBoxLayout>
+#include <QLineEdit>
+
+#include "window/theme.h"
+
+namespace vorlund {
+
+SavePaneView::SavePaneView(Form1& form, const Perform& perform, QWidget* parent) : PaneView(form, perform) {
+  const SavePane& pane = form.save_pane;
+  clicked_frame("SaveFrame", pane.SaveFrame, parent, &Form1::SaveFrame_Click);
+  auto* prompt = hint("SavePrompt", [&pane] {
+    return QString(pane.kind == SavePane::SaveKind::kGameSet ? "Save the game table under the name"
+                                                             : "Save the aircraft table under the name");
+  });
+  auto* name = new QLineEdit(frame_);
+  name->setObjectName("Text2");
+  name->setAccessibleName("Name to save under");
+  QObject::connect(name, &QLineEdit::textEdited, frame_,
+                   [this](const QString& typed) { run(&Form1::Text2_Change, typed.toStdString()); });
+  QObject::connect(name, &QLineEdit::returnPressed, frame_, [this] { run(&Form1::Label4_Click); });
+  also([name, &pane] {
+    const QString shown = QString::fromStdString(pane.Text2.text);
+    if (name->text() != shown) name->setText(shown);
+    name->setVisible(pane.Text2.visible);
+  });
+  auto* refusal = hint("SaveRefusal", [&pane] { return QString::fromStdString(pane.refusal.caption); });
+  refusal->setStyleSheet(QStringLiteral("color: %1; font-weight: bold;").arg(theme::kAccent.name()));
+  also([refusal, &pane] { refusal->setVisible(pane.refusal.visible); });
+  auto* heading = text("Label22", pane.Label22, Tone::kQuiet);
+  auto* existing =
+      list("File5", "Existing files", pane.File5, &Form1::File5_Click, "Nothing has been saved yet");
+
+  auto* commands = new QHBoxLayout;
+  commands->addWidget(command("Label4", pane.Label4, Look::kPrimary, &Form1::Label4_Click), 2);
+  commands->addWidget(command("Label39", pane.Label39, Look::kButton, &Form1::Label39_Click), 1);
+  frame_->content()->addWidget(prompt);
+  frame_->content()->addWidget(name);
+  frame_->content()->addWidget(refusal);
+  frame_->content()->addWidget(heading);
+  frame_->content()->addWidget(existing, 1);
+  frame_->content()->addLayout(commands);
+}
+
+}  // namespace vorlund

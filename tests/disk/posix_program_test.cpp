@@ -1,0 +1,108 @@
+// Starting programs on POSIX: detached, in their folder, Windows programs through Wine.
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdlib>
+#include <filesystem>
+
+#include "base/action_error.h"
+#include "disk/file_system.h"
+#include "support/temporary_folder.h"
+
+namespace vorlund {
+namespace {
+
+class StartProgramTest : public testing::Test {
+ protected:
+  StartProgramTest() { folder_.make_folder("Game"); }
+  ~StartProgramTest() override { ::setenv("PATH", path_before_.c_str(), 1); }
+
+  /// Path for calls of the system.
+  std::string system_path(const std::string& name) const { return folder_.path() + "/" + name; }
+
+  /// Makes an executable script; it works in the folder where it is started.
+  void make_script(const std::string& name, const std::string& commands) {
+    folder_.write(name, "#!/bin/sh\n" + commands + "\n");
+    ASSERT_EQ(::chmod(system_path(name).c_str(), 0755), 0);
+  }
+
+  /// Content of a file that the started program makes, "" when it is not there after ten seconds.
+  std::string awaited(const std::string& name) {
+    for (int round = 0; round < 1000 && !folder_.has(name); ++round) ::usleep(10'000);
+    return folder_.has(name) ? folder_.read(name) : "";
+  }
+
+  test::TemporaryFolder folder_;
+  std::unique_ptr<FileSystem> files_ = make_platform_file_system();
+  std::string path_before_ = std::getenv("PATH");
+};
+
+TEST_F(StartProgramTest, AProgramRunsDetachedInItsFolder) {
+  make_script("Game/Fly", "pwd > started; sleep 0.2; mv started done");
+  files_->start_program(folder_.path("GAME\\fly"), folder_.path("game"));
+  errno = 0;
+  EXPECT_EQ(::waitpid(-1, nullptr, WNOHANG), -1);
+  EXPECT_EQ(errno, ECHILD);
+  EXPECT_EQ(awaited("Game/done"), system_path("Game") + "\n");
+}
+
+TEST_F(StartProgramTest, AWindowsProgramIsStartedThroughWine) {
+  folder_.write("Game/EAW.EXE", "MZ\x90");
+  make_script("bin/wine", "printf '%s|%s|%s' \"$#\" \"$1\" \"$(pwd)\" > started && mv started done");
+  ::setenv("PATH", (system_path("bin") + ":/usr/bin:/bin").c_str(), 1);
+  files_->start_program(folder_.path("game\\eaw.exe"), folder_.path("game"));
+  EXPECT_EQ(awaited("Game/done"), "1|" + system_path("Game/EAW.EXE") + "|" + system_path("Game"));
+}
+
+TEST_F(StartProgramTest, WineIsLookedForInTheFoldersOfThePathThatAreAbsolute) {
+  folder_.write("Game/eaw.exe", "MZ\x90");
+  make_script("bin/wine", "echo started > started && mv started done");
+  ::setenv("PATH", ("::bin:/:" + system_path("bin") + ":/usr/bin:/bin").c_str(), 1);
+  files_->start_program(folder_.path("Game\\eaw.exe"), folder_.path("Game"));
+  EXPECT_EQ(awaited("Game/done"), "started\n");
+}
+
+TEST_F(StartProgramTest, AProgramIsStartedFromTheCurrentFolder) {
+  make_script("Game/fly", "pwd > started; mv started done");
+  const std::filesystem::path before = std::filesystem::current_path();
+  std::filesystem::current_path(folder_.path());
+  files_->start_program("game\\FLY", "game");
+  std::filesystem::current_path(before);
+  EXPECT_EQ(awaited("Game/done"), system_path("Game") + "\n");
+}
+
+TEST_F(StartProgramTest, AProgramThatIsNotThereIsAnError) {
+  try {
+    files_->start_program(folder_.path("Game\\eaw.exe"), folder_.path("Game"));
+    ADD_FAILURE() << "no error";
+  } catch (const ActionError& error) {
+    EXPECT_EQ(error.path(), folder_.path("Game\\eaw.exe"));
+    EXPECT_EQ(error.reason(), "No such file or directory");
+  }
+}
+
+TEST_F(StartProgramTest, WithoutWineTheErrorSaysWhatIsMissing) {
+  folder_.write("Game/eaw.exe", "MZ\x90");
+  ::setenv("PATH", system_path("bin").c_str(), 1);
+  try {
+    files_->start_program(folder_.path("Game\\eaw.exe"), folder_.path("Game"));
+    ADD_FAILURE() << "no error";
+  } catch (const ActionError& error) {
+    EXPECT_EQ(error.reason(), "Wine is missing, which is needed to start a Windows program");
+  }
+}
+
+TEST_F(StartProgramTest, AProgramThatTheSystemRefusesIsAnError) {
+  folder_.write("Game/eaw.exe", "neither a program nor a script");
+  EXPECT_THROW(files_->start_program(folder_.path("Game\\eaw.exe"), folder_.path("Game")), ActionError);
+  ASSERT_EQ(::chmod(system_path("Game/eaw.exe").c_str(), 0755), 0);
+  EXPECT_THROW(files_->start_program(folder_.path("Game\\eaw.exe"), folder_.path("Game")), ActionError);
+  make_script("Game/fly", "exit 0");
+  EXPECT_THROW(files_->start_program(folder_.path("Game\\fly"), folder_.path("nothing")), ActionError);
+}
+
+}  // namespace
+}  // namespace vorlund
