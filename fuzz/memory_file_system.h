@@ -24,6 +24,7 @@ class MemoryFileSystem : public FileSystem {
   CopyOutcome copy_file(std::string_view source, std::string_view target, Durability durability) override;
   void remove_file(std::string_view path) override;
   void start_program(std::string_view path, std::string_view folder) override;
+  FolderLocks lock_folders(const std::vector<std::string>&, std::chrono::milliseconds) override { return {}; }
 
   /// Paths of all files, as they were written.
   std::vector<std::string> paths() const;

@@ -93,6 +93,13 @@ bool is_staging_name(std::string_view name) {
   return take_staging_name(name, platform, process);
 }
 
+bool is_staging_name_of_another(std::string_view name) {
+  char platform = 0;
+  std::uint32_t process = 0;
+  return take_staging_name(name, platform, process) && platform == kPlatformLetter &&
+         process != own_process_number();
+}
+
 bool is_left_over(std::string_view name) {
   char platform = 0;
   std::uint32_t process = 0;

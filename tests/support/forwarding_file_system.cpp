@@ -70,6 +70,15 @@ void ForwardingFileSystem::start_program(std::string_view path, std::string_view
   inner_.start_program(path, folder);
 }
 
+FolderLocks ForwardingFileSystem::lock_folders(const std::vector<std::string>& folders,
+                                               std::chrono::milliseconds wait) {
+  std::string text = "lock";
+  for (const std::string& folder : folders)
+    text.append(&folder == folders.data() ? " " : ", ").append(folder);
+  before({Effect::kReading, std::move(text), {}, {}, {}});
+  return inner_.lock_folders(folders, wait);
+}
+
 void ForwardingFileSystem::begin_action(Pulse pulse, std::string_view staging) {
   inner_action_.emplace(inner_, std::move(pulse), staging);
 }

@@ -25,6 +25,7 @@ class ForwardingFileSystem : public FileSystem {
   CopyOutcome copy_file(std::string_view source, std::string_view target, Durability durability) override;
   void remove_file(std::string_view path) override;
   void start_program(std::string_view path, std::string_view folder) override;
+  FolderLocks lock_folders(const std::vector<std::string>& folders, std::chrono::milliseconds wait) override;
 
  protected:
   enum class Effect {

@@ -11,6 +11,7 @@
 #include "disk/file_system.h"
 #include "posix/posix_content.h"
 #include "posix/posix_folder.h"
+#include "posix/posix_folder_locks.h"
 #include "posix/posix_folder_reader.h"
 #include "posix/posix_program.h"
 #include "posix/posix_target.h"
@@ -31,6 +32,7 @@ class PosixFileSystem final : public FileSystem {
   CopyOutcome copy_file(std::string_view source, std::string_view target, Durability durability) override;
   void remove_file(std::string_view path) override;
   void start_program(std::string_view path, std::string_view folder) override;
+  FolderLocks lock_folders(const std::vector<std::string>& folders, std::chrono::milliseconds wait) override;
 
  protected:
   void begin_action(Pulse pulse, std::string_view staging) override;
@@ -273,6 +275,21 @@ void PosixFileSystem::start_program(std::string_view path, std::string_view fold
   const FileHandle start_folder = open_folder(place);
   if (!start_folder.is_open()) throw_system_error("start a program in", folder);
   start_detached(command_for(spelled, beginning), start_folder.descriptor(), path);
+}
+
+FolderLocks PosixFileSystem::lock_folders(const std::vector<std::string>& folders,
+                                          std::chrono::milliseconds wait) {
+  std::vector<std::unique_ptr<FolderLock>> locks;
+  for (const std::string& path : folders) {
+    Place place = place_of(path, EntryKind::kFolder);
+    FileHandle handle = open_folder(place);
+    if (handle.is_open()) {
+      locks.push_back(std::make_unique<PosixFolderLock>(path, std::move(handle)));
+    } else if (errno != ENOENT && errno != ENOTDIR && errno != ELOOP && errno != ENAMETOOLONG) {
+      throw_system_error("lock the folder", path);
+    }
+  }
+  return FolderLocks(std::move(locks), wait);
 }
 
 void PosixFileSystem::begin_action(Pulse pulse, std::string_view staging) {

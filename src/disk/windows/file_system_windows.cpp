@@ -7,6 +7,7 @@
 #include "base/action_error.h"
 #include "disk/file_system.h"
 #include "windows/windows_content.h"
+#include "windows/windows_folder_locks.h"
 #include "windows/windows_path.h"
 #include "windows/windows_target.h"
 
@@ -55,6 +56,7 @@ class WindowsFileSystem final : public FileSystem {
   CopyOutcome copy_file(std::string_view source, std::string_view target, Durability durability) override;
   void remove_file(std::string_view path) override;
   void start_program(std::string_view path, std::string_view folder) override;
+  FolderLocks lock_folders(const std::vector<std::string>& folders, std::chrono::milliseconds wait) override;
 
  protected:
   // Windows finds names in any spelling by itself, so there is nothing to remember during an action.
@@ -187,6 +189,15 @@ void WindowsFileSystem::start_program(std::string_view path, std::string_view fo
   }
   CloseHandle(process.hThread);
   CloseHandle(process.hProcess);
+}
+
+FolderLocks WindowsFileSystem::lock_folders(const std::vector<std::string>& folders,
+                                            std::chrono::milliseconds wait) {
+  std::vector<std::unique_ptr<FolderLock>> locks;
+  for (const std::string& path : folders) {
+    if (FolderExists(path)) locks.push_back(std::make_unique<WindowsFolderLock>(path));
+  }
+  return FolderLocks(std::move(locks), wait);
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 
 #include "base/action_error.h"
 #include "base/text.h"
+#include "windows/windows_left_overs.h"
 #include "windows/windows_path.h"
 
 namespace vorlund {
@@ -80,7 +81,7 @@ bool WindowsTarget::keep(Durability durability) {
 HANDLE WindowsTarget::begin() {
   if (existing_) refuse_read_only(existing_->dwFileAttributes, "write", path_);
   const DWORD kept = existing_ ? existing_->dwFileAttributes & kKeptAttributes : 0;
-  sweep_left_overs();
+  delete_matching(folder_, is_left_over);
   std::wstring neighbour;
   for (unsigned attempt = 0; !written_.is_open(); ++attempt) {
     neighbour = folder_ + to_wide(staging_name(attempt));
@@ -91,22 +92,6 @@ HANDLE WindowsTarget::begin() {
   }
   neighbour_ = neighbour;
   return written_.get();
-}
-
-/// Deletes the files that a write of a process that runs no more has left in the folder. Such that can't be
-/// deleted stay.
-void WindowsTarget::sweep_left_overs() const {
-  WIN32_FIND_DATAW entry;
-  const HANDLE search = FindFirstFileExW((folder_ + L"~vorlund-*.bak").c_str(), FindExInfoBasic, &entry,
-                                         FindExSearchNameMatch, nullptr, 0);
-  if (search == INVALID_HANDLE_VALUE) return;
-  do {
-    if (!is_left_over(from_wide(entry.cFileName))) continue;
-    const std::wstring left_over = folder_ + entry.cFileName;
-    SetFileAttributesW(left_over.c_str(), FILE_ATTRIBUTE_NORMAL);
-    DeleteFileW(left_over.c_str());
-  } while (FindNextFileW(search, &entry) != 0);
-  FindClose(search);
 }
 
 void WindowsTarget::finish(Durability durability) {

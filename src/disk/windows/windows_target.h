@@ -40,7 +40,6 @@ class WindowsTarget {
   void finish(Durability durability);
 
  private:
-  void sweep_left_overs() const;
   bool spelled_otherwise() const;
   /// Spells the file that is in place as asked.
   void settle_spelling() const;

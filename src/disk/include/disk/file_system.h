@@ -1,6 +1,7 @@
 // The one door to the disk: every file operation of the program goes through this interface.
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <functional>
 #include <limits>
@@ -8,6 +9,8 @@
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "disk/folder_locks.h"
 
 namespace vorlund {
 
@@ -104,6 +107,15 @@ class FileSystem {
   /// it. On POSIX a Windows program (one that begins with "MZ") is started through Wine.
   virtual void start_program(std::string_view path, std::string_view folder) = 0;
 
+  /// Locks folders against other programs, and other parts of this one, that lock them here too. All of them
+  /// are held until the returned object goes, or none where one is in use; `wait` is how long it is tried
+  /// again. A folder that does not exist is passed over, and one that several paths lead to is one. Nothing
+  /// of a lock is on the disk, none outlives its program, and started programs have no part in it.
+  /// In the folders that are held, what writes of other processes of this platform have left is deleted, even
+  /// where a program of that number runs: it can't be one that writes there.
+  virtual FolderLocks lock_folders(const std::vector<std::string>& folders,
+                                   std::chrono::milliseconds wait) = 0;
+
   /// Called between the steps of long operations, so that the screen can be kept alive.
   using Pulse = std::function<void()>;
 
@@ -140,6 +152,10 @@ std::string staging_name(unsigned attempt);
 /// True for a name that `staging_name` has given to a process of this platform that runs no more: what a
 /// crash has left. The next write in its folder deletes such a file.
 bool is_left_over(std::string_view name);
+
+/// True for a name that `staging_name` gives to another process of this platform, whether it runs or not. In
+/// a locked folder that is what a crash has left.
+bool is_staging_name_of_another(std::string_view name);
 
 /// True for every name of the form that `staging_name` gives, whichever process it belongs to.
 bool is_staging_name(std::string_view name);
