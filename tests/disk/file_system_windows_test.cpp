@@ -117,6 +117,24 @@ TEST_F(WindowsFileSystemTest, ATargetThatAnotherProgramHasLockedStaysAndLeavesNo
   EXPECT_EQ(folder_.tree(), (Tree{{"source", "new"}, {"target", "old"}}));
 }
 
+TEST_F(WindowsFileSystemTest, WhatIsBeingWrittenIsOpenToNobodyElse) {
+  folder_.write("source", std::string(3'000'000, 'n'));
+  folder_.write("target", "old");
+  folder_.write("stranger", "a stranger's");
+  int attempts = 0;
+  const FileSystem::Action action(*files_, [&] {
+    const std::wstring neighbour = wide(staging_name(0));
+    ++attempts;
+    EXPECT_EQ(DeleteFileW(neighbour.c_str()), 0);
+    EXPECT_EQ(MoveFileExW(neighbour.c_str(), wide("elsewhere").c_str(), 0), 0);
+    EXPECT_EQ(MoveFileExW(wide("stranger").c_str(), neighbour.c_str(), MOVEFILE_REPLACE_EXISTING), 0);
+  });
+  EXPECT_EQ(copy("source", "target"), CopyOutcome::kWritten);
+  EXPECT_GT(attempts, 0);
+  EXPECT_EQ(folder_.names(), (Names{"source", "stranger", "target"}));
+  EXPECT_TRUE(folder_.read("target") == folder_.read("source"));
+}
+
 TEST_F(WindowsFileSystemTest, PathsBelowADriveRootMayDoubleTheBackslash) {
   const std::string name = "vorlund caf\u00E9 " + std::to_string(GetCurrentProcessId()) + ".txt";
   const std::string path = folder_.path().substr(0, 3) + "\\" + name;

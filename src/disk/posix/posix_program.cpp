@@ -50,8 +50,10 @@ std::string find_command(std::string_view name) {
 
 }  // namespace
 
+/// Asked of the system once: each file that is written takes a name with it.
 std::uint32_t own_process_number() {
-  return static_cast<std::uint32_t>(::getpid());
+  static const auto number = static_cast<std::uint32_t>(::getpid());
+  return number;
 }
 
 bool process_runs(std::uint32_t number) {

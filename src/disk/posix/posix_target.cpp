@@ -67,8 +67,21 @@ PosixTarget::~PosixTarget() {
 
 /// Removes a neighbour that was not put in its place.
 void PosixTarget::drop() {
-  if (!neighbour_.empty()) ::unlinkat(neighbour_folder_->descriptor(), neighbour_.c_str(), 0);
+  if (!neighbour_.empty() && names_written()) {
+    ::unlinkat(neighbour_folder_->descriptor(), neighbour_.c_str(), 0);
+  }
   neighbour_.clear();
+}
+
+/// True where the neighbour's name is still that of the file that was written; else false, with errno, which
+/// is 0 where another file has the name.
+bool PosixTarget::names_written() const {
+  struct stat found {};
+  if (::fstatat(neighbour_folder_->descriptor(), neighbour_.c_str(), &found, AT_SYMLINK_NOFOLLOW) != 0) {
+    return false;
+  }
+  errno = 0;
+  return found.st_dev == written_status_.st_dev && found.st_ino == written_status_.st_ino;
 }
 
 void PosixTarget::look_at(const std::string& spelling) {
@@ -111,6 +124,7 @@ int PosixTarget::begin(const std::shared_ptr<PosixFolder>& staging) {
   const mode_t mode = replaces ? status_.st_mode & kPermissions : kUsualPermissions;
   const bool staged = staging && folder_->takes_files_of(*staging) && create(staging, mode);
   if (!staged && !create(folder_, mode)) fail();
+  if (::fstat(written_.descriptor(), &written_status_) != 0) fail();
   if (replaces) set_mode(mode);
   return written_.descriptor();
 }
@@ -133,13 +147,18 @@ bool PosixTarget::create(const std::shared_ptr<PosixFolder>& folder, mode_t mode
 
 /// Brings back the permissions that the process's mask has taken from the new file, if any.
 void PosixTarget::set_mode(mode_t mode) {
-  struct stat status {};
-  if (::fstat(written_.descriptor(), &status) != 0) fail();
-  if ((status.st_mode & kPermissions) != mode && ::fchmod(written_.descriptor(), mode) != 0) fail();
+  if ((written_status_.st_mode & kPermissions) != mode && ::fchmod(written_.descriptor(), mode) != 0) fail();
 }
 
 bool PosixTarget::finish(Durability durability) {
   if (durability == Durability::kFlushed && ::fsync(written_.descriptor()) != 0) fail();
+  // Asked while the file is open: some disks number a file anew once nobody has it open.
+  if (!names_written()) {
+    if (errno != 0) fail();
+    throw ActionError(
+        "write", path_,
+        "another program has put a file of its own in the place of the new one, \"" + neighbour_ + "\"");
+  }
   if (!written_.close()) fail();
   settle_spelling();
   if (::renameat(neighbour_folder_->descriptor(), neighbour_.c_str(), folder_->descriptor(), name_.c_str()) !=

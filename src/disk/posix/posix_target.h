@@ -45,9 +45,10 @@ class PosixTarget {
   /// written to, else beside the file. An error where the file must not be replaced.
   int begin(const std::shared_ptr<PosixFolder>& staging);
 
-  /// Puts the neighbour in the file's place. False where that can't be done from the staging folder, which
-  /// may be mounted apart although it lies on the same disk: then everything is to be written once more,
-  /// without staging.
+  /// Puts the neighbour in the file's place. It is an error where another file has the neighbour's name by
+  /// now: that one stays, as does the file that was there. False where that can't be done from the staging
+  /// folder, which may be mounted apart although it lies on the same disk: then everything is to be written
+  /// once more, without staging.
   bool finish(Durability durability);
 
  private:
@@ -57,6 +58,7 @@ class PosixTarget {
   void refuse_read_only_others() const;
   bool create(const std::shared_ptr<PosixFolder>& folder, mode_t mode);
   void drop();
+  bool names_written() const;
   void set_mode(mode_t mode);
   void settle_spelling();
   void flush_folder() const;
@@ -74,6 +76,7 @@ class PosixTarget {
   struct stat status_ {};
   FileHandle existing_;
   FileHandle written_;
+  struct stat written_status_ {};  ///< of the neighbour, as it was created
 };
 
 /// Throws ActionError where the file has no write permission for anybody.

@@ -1,6 +1,11 @@
 // Writes beside the target and renames, so that a crash leaves the old file or the new one.
 #include "windows/windows_target.h"
 
+#include <cstddef>
+#include <cstring>
+#include <memory>
+#include <new>
+#include <utility>
 #include "base/action_error.h"
 #include "base/text.h"
 #include "windows/windows_left_overs.h"
@@ -54,9 +59,9 @@ WindowsTarget::WindowsTarget(std::string_view path, Spelling spelling)
 }
 
 WindowsTarget::~WindowsTarget() {
-  if (neighbour_.empty()) return;
-  written_.close();
-  DeleteFileW(neighbour_.c_str());
+  if (!written_.is_open()) return;
+  FILE_DISPOSITION_INFO removal{TRUE};
+  SetFileInformationByHandle(written_.get(), FileDispositionInfo, &removal, sizeof removal);
 }
 
 WindowsHandle WindowsTarget::open_to_compare(std::uint64_t size) const {
@@ -82,25 +87,36 @@ HANDLE WindowsTarget::begin() {
   if (existing_) refuse_read_only(existing_->dwFileAttributes, "write", path_);
   const DWORD kept = existing_ ? existing_->dwFileAttributes & kKeptAttributes : 0;
   delete_matching(folder_, is_left_over);
-  std::wstring neighbour;
   for (unsigned attempt = 0; !written_.is_open(); ++attempt) {
-    neighbour = folder_ + to_wide(staging_name(attempt));
-    written_ = WindowsHandle(CreateFileW(neighbour.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
+    const std::wstring neighbour = folder_ + to_wide(staging_name(attempt));
+    written_ = WindowsHandle(CreateFileW(neighbour.c_str(), GENERIC_WRITE | DELETE, 0, nullptr, CREATE_NEW,
                                          kept != 0 ? kept : FILE_ATTRIBUTE_NORMAL, nullptr));
     const DWORD error = written_.is_open() ? ERROR_SUCCESS : GetLastError();
     if (error != ERROR_SUCCESS && error != ERROR_FILE_EXISTS && error != ERROR_ALREADY_EXISTS) fail();
   }
-  neighbour_ = neighbour;
   return written_.get();
+}
+
+/// Renames by the handle, so that it is the file that was written whatever happens to its name; false, with
+/// the system's error, on failure.
+bool WindowsTarget::rename_written() const {
+  const std::size_t name_bytes = long_path_.size() * sizeof(wchar_t);
+  const std::size_t size = sizeof(FILE_RENAME_INFO) + name_bytes;
+  const std::unique_ptr<std::byte[]> memory(new std::byte[size]{});
+  auto* const renaming = new (memory.get()) FILE_RENAME_INFO{};
+  renaming->ReplaceIfExists = TRUE;
+  renaming->FileNameLength = static_cast<DWORD>(name_bytes);
+  std::memcpy(renaming->FileName, long_path_.c_str(), name_bytes);
+  return SetFileInformationByHandle(written_.get(), FileRenameInfo, renaming, static_cast<DWORD>(size)) != 0;
 }
 
 void WindowsTarget::finish(Durability durability) {
   const bool flushed = durability == Durability::kFlushed;
   if (flushed && FlushFileBuffers(written_.get()) == 0) fail();
-  if (!written_.close()) fail();
-  const DWORD flags = MOVEFILE_REPLACE_EXISTING | (flushed ? MOVEFILE_WRITE_THROUGH : 0U);
-  if (MoveFileExW(neighbour_.c_str(), long_path_.c_str(), flags) == 0) fail();
-  neighbour_.clear();
+  if (!rename_written()) fail();
+  WindowsHandle renamed = std::move(written_);
+  if (flushed && FlushFileBuffers(renamed.get()) == 0) fail();
+  if (!renamed.close()) fail();
   settle_spelling();
 }
 

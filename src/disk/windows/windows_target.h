@@ -40,6 +40,7 @@ class WindowsTarget {
   void finish(Durability durability);
 
  private:
+  bool rename_written() const;
   bool spelled_otherwise() const;
   /// Spells the file that is in place as asked.
   void settle_spelling() const;
@@ -50,8 +51,7 @@ class WindowsTarget {
   std::wstring folder_;  ///< with a backslash at its end
   std::wstring name_;
   std::optional<WIN32_FIND_DATAW> existing_;
-  std::wstring neighbour_;  ///< full path, "" when there is none
-  WindowsHandle written_;
+  WindowsHandle written_;  ///< the neighbour, open to nobody else until it is in its place
 };
 
 /// Throws ActionError where the attributes mark the file read-only.
