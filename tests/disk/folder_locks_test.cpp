@@ -2,9 +2,16 @@
 #include "disk/folder_locks.h"
 
 #include <gtest/gtest.h>
+#ifdef _WIN32
+#include <windows.h>
 
+#include <psapi.h>
+#endif
+
+#include <algorithm>
 #include <map>
 #include <optional>
+#include <sstream>
 #include <thread>
 
 #include "disk/file_system.h"
@@ -103,9 +110,25 @@ TEST_F(FolderLocksTest, OneThatIsNotLetGoIsWaitedForNoLongerThanAsked) {
   EXPECT_GE(std::chrono::steady_clock::now() - begun, 150ms);
 }
 
-/// A name such as `staging_name` gives, of a process that runs: the first one of the system.
+#ifdef _WIN32
+std::uint32_t running_process() {
+  DWORD numbers[64];
+  DWORD size = 0;
+  EXPECT_NE(K32EnumProcesses(numbers, sizeof numbers, &size), 0);
+  return *std::find_if(numbers, numbers + size / sizeof(DWORD),
+                       [](DWORD number) { return number != 0 && number != own_process_number(); });
+}
+#else
+std::uint32_t running_process() {
+  return 1;
+}
+#endif
+
+/// A name such as `staging_name` gives, of a process that runs.
 std::string name_of_a_running_process() {
-  return std::string("~vorlund-") + kPlatformLetter + (kPlatformLetter == 'p' ? "1" : "4") + "-0.bak";
+  std::ostringstream name;
+  name << "~vorlund-" << kPlatformLetter << std::hex << running_process() << "-0.bak";
+  return name.str();
 }
 
 TEST_F(FolderLocksTest, WhatACrashLeftGoesThoughItsNumberBelongsToARunningProgramNow) {
