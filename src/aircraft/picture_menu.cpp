@@ -103,7 +103,7 @@ bool pmenwrite(const GameFolder& game, Country country, const PictureMenu& menu)
   const std::string path = game.path(picture_menu_file(country));
   if (!game.files.FileExists(path)) return false;
   // Deliberate: what followed the last entry in the old file is not kept. The game reads no further.
-  game.files.replace_file(path, compose_picture_menu(menu, country), Durability::kCached);
+  game.files.replace_file(path, compose_picture_menu(menu, country), Durability::kFlushed);
   return true;
 }
 

@@ -92,7 +92,7 @@ void PilotNames::SavePnames(const GameFolder& game) {
   if (!game.files.FileExists(path)) return;
   PNameList.resize(kNames);
   for (std::string& name : PNameList) name = trimmed(name);
-  game.files.replace_file(path, compose_pilot_names(PNameList, path), Durability::kCached);
+  game.files.replace_file(path, compose_pilot_names(PNameList, path), Durability::kFlushed);
 }
 
 }  // namespace vorlund

@@ -1,11 +1,23 @@
 // Counts steps and copies.
 #include "disk/copier.h"
 
+#include <algorithm>
+#include <array>
+
 #include "base/text.h"
 #include "disk/listing.h"
 #include "disk/store.h"
 
 namespace vorlund {
+
+namespace {
+
+/// What the game can't be without, each with the backslash before its name.
+constexpr std::array<std::string_view, 7> kNeeded = {
+    kGameProgram,        kPlanesData,          kLoadoutData,      kPilotNames,
+    kBritishPictureMenu, kAmericanPictureMenu, kGermanPictureMenu};
+
+}  // namespace
 
 ListedAhead::ListedAhead(FileSystem& files, const std::string& folder, std::string_view pattern) {
   try {
@@ -18,6 +30,13 @@ ListedAhead::ListedAhead(FileSystem& files, const std::string& folder, std::stri
 const std::vector<std::string>& ListedAhead::names() const {
   if (failure_) std::rethrow_exception(failure_);
   return names_;
+}
+
+bool must_be_flushed(std::string_view path) {
+  if (same_name(last_characters(path, 4), ".SVE")) return true;
+  const std::string_view name = bare_name(path);
+  return std::any_of(kNeeded.begin(), kNeeded.end(),
+                     [name](std::string_view needed) { return same_name(name, needed.substr(1)); });
 }
 
 Copier::Copier(const GameFolder& game, Status& status)
@@ -33,9 +52,8 @@ void Copier::reach(std::string_view file) {
 }
 
 void Copier::copy(const std::string& source, const std::string& target) {
-  const bool save = same_name(last_characters(target, 4), ".SVE");
-  const CopyOutcome outcome =
-      files_.copy_file(source, target, save ? Durability::kFlushed : Durability::kCached);
+  const Durability durability = must_be_flushed(target) ? Durability::kFlushed : Durability::kCached;
+  const CopyOutcome outcome = files_.copy_file(source, target, durability);
   ++(outcome == CopyOutcome::kWritten ? copied_ : unchanged_);
 }
 

@@ -39,7 +39,7 @@ PatchedBytes& PatchedFile::open() {
 
 void PatchedFile::keep() {
   const bool wanted = content_ && (!existed_ || content_->changed());
-  if (wanted) files_.replace_file(path_, content_->bytes(), Durability::kCached);
+  if (wanted) files_.replace_file(path_, content_->bytes(), Durability::kFlushed);
 }
 
 void PatchedFile::patch(const std::function<void()>& steps) try {

@@ -39,7 +39,7 @@ TEST_F(PatchFileTest, BytesArePatchedInPlaceAndTheFileIsWrittenOnce) {
   EXPECT_EQ(folder_.read("Planes.dat"),
             "01\xFF"
             "34567ab");
-  EXPECT_EQ(files_.changes(), Log{"replace " + path_});
+  EXPECT_EQ(files_.changes(), Log{"replace " + path_ + " (flushed)"});
 }
 
 TEST_F(PatchFileTest, WritingPastTheEndFillsTheGapWithZeros) {

@@ -82,6 +82,15 @@ void FolderUnderFire::lay_out(const TemporaryFolder& folder) const {
   }
 }
 
+bool FolderUnderFire::may_hold(const std::string& name, const std::string& content) const {
+  const auto steps = steps_.find(lower(name));
+  return steps != steps_.end() && steps->second.contains(content);
+}
+
+bool FolderUnderFire::may_go(const std::string& name) const {
+  return may_go_.contains(lower(name));
+}
+
 std::string FolderUnderFire::damage(const Tree& found) const {
   std::string report = strays(found);
   for (const auto& [name, content] : found) {

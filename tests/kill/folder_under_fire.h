@@ -28,8 +28,16 @@ class FolderUnderFire {
   /// have to be given.
   void lay_out(const TemporaryFolder& folder) const;
 
-  /// What the folder holds after the action.
+  /// What the folder holds before the action, and after it.
+  const Tree& before() const { return before_; }
   const Tree& finished() const { return finished_; }
+
+  /// True where the file may hold this, whatever its spelling: before, after, or between two steps. Of a name
+  /// that the action has nothing to do with nothing is known: false.
+  bool may_hold(const std::string& name, const std::string& content) const;
+
+  /// True where the action deletes the file.
+  bool may_go(const std::string& name) const;
 
   /// What is wrong with a folder in which the action was cut off, "" when nothing is: each file must be
   /// wholly as before, as after, or as between two steps, and nothing may be wrong with the names.

@@ -6,6 +6,7 @@
 #include <memory>
 #include <new>
 #include <utility>
+
 #include "base/action_error.h"
 #include "base/text.h"
 #include "windows/windows_left_overs.h"

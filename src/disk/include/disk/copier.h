@@ -30,6 +30,11 @@ class ListedAhead {
   std::exception_ptr failure_;
 };
 
+/// True for the files that a power cut must leave whole: career saves, which nothing can make anew, and the
+/// game's executable and tables, which the game can't be without and whose old content sets are patched into.
+/// The records, which tell what is installed, are flushed by those who write them.
+bool must_be_flushed(std::string_view path);
+
 /// One long action on files. While it lives the file system remembers names and stages copies in the store.
 class Copier {
  public:
@@ -42,8 +47,7 @@ class Copier {
   /// it, 0 while nothing is expected.
   void reach(std::string_view file);
 
-  /// Copies a file as FileSystem::copy_file does. A save (".SVE") may stand where the player's own save stood
-  /// a moment ago, so it is flushed to the disk.
+  /// Copies a file as FileSystem::copy_file does, flushed where it must be.
   void copy(const std::string& source, const std::string& target);
 
   std::uint64_t copied() const { return copied_; }        ///< files written

@@ -17,7 +17,7 @@ namespace vorlund {
 /// How far a written file must have got when the call returns.
 enum class Durability {
   kCached,   ///< handed to the operating system
-  kFlushed,  ///< on the disk itself: for career saves and records, which nothing can make anew
+  kFlushed,  ///< on the disk itself: for what a power cut must leave whole
 };
 
 /// What copying a file came to.

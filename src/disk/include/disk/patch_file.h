@@ -51,8 +51,8 @@ class PatchedFile {
   PatchedBytes& open();
 
   /// Runs the steps and then replaces the file whole, if it was opened and anything changed or it did not
-  /// exist. When the steps fail, what they had written up to there is kept and the error goes on; when memory
-  /// gives out the file stays as it was.
+  /// exist; it is flushed, since the game can't be without it. When the steps fail, what they had written up
+  /// to there is kept and the error goes on; when memory gives out the file stays as it was.
   void patch(const std::function<void()>& steps);
 
   [[nodiscard]] const std::string& path() const { return path_; }
