@@ -370,8 +370,9 @@ TEST_F(AircraftInstaller, ChangesTheDiskInTheOrderOfItsSteps) {
   install_aircraft_set({recording, folder.path()}, status, table, names, menu);
   std::vector<std::string> changes = recording.changes();
   for (std::string& change : changes) change = change.substr(change.rfind('\\') + 1);
-  EXPECT_EQ(changes, (std::vector<std::string>{"group.dat", "pnames.str", "Planes.dat", "loadout.dat",
-                                               "P38H.flt", "p.tpc", "P51B.flt", "picplng.mnu"}));
+  EXPECT_EQ(changes, (std::vector<std::string>{"group.dat", "pnames.str (flushed)", "Planes.dat (flushed)",
+                                               "loadout.dat (flushed)", "P38H.flt", "p.tpc", "P51B.flt",
+                                               "picplng.mnu (flushed)"}));
 }
 
 TEST_F(AircraftInstaller, ProgressNeverGoesBack) {
