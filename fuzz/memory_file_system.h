@@ -17,6 +17,8 @@ class MemoryFileSystem : public FileSystem {
   std::string current_folder() override { return "C:\\Game"; }
   bool FileExists(std::string_view path) override;
   bool FolderExists(std::string_view path) override;
+  bool is_there(std::string_view path) override { return FileExists(path); }
+  std::vector<std::string> take_unseen() override { return {}; }
   bool lies_inside(std::string_view folder, std::string_view root) override;
   std::vector<FolderEntry> entries(std::string_view folder) override;
   std::unique_ptr<FileReader> open_file(std::string_view path) override;

@@ -87,7 +87,7 @@ class Installation {
 
   void write_names() {
     // Deliberate: without the name file the view is not refreshed either, and what it shows is installed.
-    if (!is_there(game_.files, game_.path(kPilotNames))) return;
+    if (!game_.files.is_there(game_.path(kPilotNames))) return;
     names_.LoadPnames(game_);
     table_.g1update();
     for (const int row : table_.shown_slots()) {

@@ -92,7 +92,7 @@ std::string compose_picture_menu(const PictureMenu& menu, Country country) {
 void pmenread(const GameFolder& game, Country country, PictureMenu& menu) {
   menu.clear();
   const std::string path = game.path(picture_menu_file(country));
-  if (!is_there(game.files, path)) return;
+  if (!game.files.is_there(path)) return;
   const std::size_t longest =
       PictureMenu::kHeaderSize +
       picture_menu_entries(country) * (kLengthSize + kLongestNameBytes + PictureMenu::kTrailerSize);

@@ -83,7 +83,7 @@ void PilotNames::set_name(int record, std::string name) {
 
 void PilotNames::LoadPnames(const GameFolder& game) {
   const std::string path = game.path(kPilotNames);
-  if (!is_there(game.files, path)) return;
+  if (!game.files.is_there(path)) return;
   PNameList = parse_pilot_names(game.files.read_file(path, kLongestRead), path);
 }
 

@@ -1,11 +1,9 @@
 // Reads, patches and replaces a file as one step.
 #include "disk/patch_file.h"
 
-#include <algorithm>
 #include <new>
 
 #include "base/action_error.h"
-#include "base/text.h"
 
 namespace vorlund {
 
@@ -20,18 +18,9 @@ void PatchedBytes::put(std::size_t offset, std::string_view run) {
   bytes_.replace(offset, run.size(), run);
 }
 
-bool is_there(FileSystem& files, std::string_view path) {
-  if (files.FileExists(path)) return true;
-  const std::string_view name = bare_name(path);
-  const std::vector<FolderEntry> entries = files.entries(path.substr(0, path.size() - name.size()));
-  return std::any_of(entries.begin(), entries.end(), [&](const FolderEntry& entry) {
-    return entry.kind == EntryKind::kFile && same_name(entry.name, name);
-  });
-}
-
 PatchedBytes& PatchedFile::open() {
   if (!content_) {
-    existed_ = is_there(files_, path_);
+    existed_ = files_.is_there(path_);
     content_.emplace(existed_ ? files_.read_file(path_) : std::string());
   }
   return *content_;

@@ -37,9 +37,8 @@ TEST_F(FaultyFileSystemTest, FailsPersistentlyFromTheNumberOn) {
   folder_.write("a", "1");
   files_.arm({2, FaultKind::kError, FaultSpan::kPersistent});
   EXPECT_TRUE(files_.FileExists(folder_.path("a")));
-  EXPECT_FALSE(files_.FileExists(folder_.path("a")));
-  EXPECT_TRUE(files_.struck());
-  EXPECT_FALSE(files_.failed());
+  EXPECT_THROW(files_.FileExists(folder_.path("a")), ActionError);
+  EXPECT_THROW(files_.is_there(folder_.path("a")), ActionError);
   EXPECT_THROW(files_.remove_file(folder_.path("a")), ActionError);
   EXPECT_THROW(files_.entries(folder_.path()), ActionError);
   EXPECT_THROW(files_.open_file(folder_.path("a")), ActionError);
@@ -47,6 +46,19 @@ TEST_F(FaultyFileSystemTest, FailsPersistentlyFromTheNumberOn) {
   EXPECT_THROW(files_.start_program(folder_.path("a"), folder_.path()), ActionError);
   EXPECT_TRUE(files_.failed());
   EXPECT_EQ(folder_.tree(), (Tree{{"a", "1"}}));
+}
+
+TEST_F(FaultyFileSystemTest, WithoutARightExistenceTestsAnswerNoAndTheRestFails) {
+  folder_.write("a", "1");
+  files_.arm({1, FaultKind::kNoRight, FaultSpan::kPersistent});
+  EXPECT_FALSE(files_.FileExists(folder_.path("a")));
+  EXPECT_FALSE(files_.FolderExists(folder_.path()));
+  EXPECT_FALSE(files_.lies_inside(folder_.path(), folder_.path()));
+  EXPECT_TRUE(files_.struck());
+  EXPECT_FALSE(files_.failed());
+  EXPECT_THROW(files_.is_there(folder_.path("a")), ActionError);
+  EXPECT_TRUE(files_.failed());
+  EXPECT_THROW(files_.entries(folder_.path()), ActionError);
 }
 
 TEST_F(FaultyFileSystemTest, AShortWriteLeavesHalfInTheNeighbourAndTheTargetWhole) {
@@ -100,15 +112,17 @@ TEST(RecordingFileSystem, LogsWhatIsAskedInOrder) {
   }
   files.FileExists(a);
   files.FolderExists(a);
+  files.is_there(a);
+  files.lies_inside(a, b);
   files.entries(folder.path());
   files.read_file(a);
   files.read_file(a, 1);
   files.remove_file(b);
   EXPECT_THROW(files.start_program(b, folder.path()), ActionError);
-  EXPECT_EQ(files.log(),
-            (Names{"begin action", "replace " + a + " (flushed)", "copy " + a + " -> " + b, "end action",
-                   "file exists " + a, "folder exists " + a, "list " + folder.path(), "read " + a,
-                   "read " + a, "remove " + b, "start " + b + " in " + folder.path()}));
+  EXPECT_EQ(files.log(), (Names{"begin action", "replace " + a + " (flushed)", "copy " + a + " -> " + b,
+                                "end action", "file exists " + a, "folder exists " + a, "file is there " + a,
+                                "lies inside " + b + ": " + a, "list " + folder.path(), "read " + a,
+                                "read " + a, "remove " + b, "start " + b + " in " + folder.path()}));
   EXPECT_EQ(files.changes(), (Names{"replace " + a + " (flushed)", "copy " + a + " -> " + b, "remove " + b,
                                     "start " + b + " in " + folder.path()}));
   files.clear();

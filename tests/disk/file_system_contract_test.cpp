@@ -60,12 +60,14 @@ TEST_P(FileSystemContract, FilesAndFoldersExistInAnySpelling) {
        {"Sav\u00E9data\\Mission.MSN", "SAV\u00C9DATA\\MISSION.msn", "sav\u00E9data/mission.msn",
         "\\Sav\u00E9data\\\\Mission.MSN", "Sav\u00E9data\\.\\Mission.MSN"}) {
     EXPECT_TRUE(files().FileExists(folder_.path(name))) << name;
+    EXPECT_TRUE(files().is_there(folder_.path(name))) << name;
     EXPECT_FALSE(files().FolderExists(folder_.path(name))) << name;
   }
   for (const char* name :
        {"Sav\u00E9data", "SAV\u00C9DATA", "sav\u00E9data\\", "sav\u00E9data\\\\", "", "\\"}) {
     EXPECT_TRUE(files().FolderExists(folder_.path(name))) << name;
     EXPECT_FALSE(files().FileExists(folder_.path(name))) << name;
+    EXPECT_FALSE(files().is_there(folder_.path(name))) << name;
   }
 }
 
@@ -88,8 +90,10 @@ TEST_P(FileSystemContract, MalformedAndUnreachablePathsDoNotExist) {
                                  "Q:\\nothing"};
   for (const std::string& path : hostile) {
     EXPECT_FALSE(files().FileExists(path)) << testing::PrintToString(path.substr(0, 400));
+    EXPECT_FALSE(files().is_there(path)) << testing::PrintToString(path.substr(0, 400));
     EXPECT_FALSE(files().FolderExists(path)) << testing::PrintToString(path.substr(0, 400));
   }
+  EXPECT_EQ(files().take_unseen(), Names());
 }
 
 TEST_P(FileSystemContract, EveryQuestionAsksTheDisk) {
@@ -272,6 +276,24 @@ TEST_P(FileSystemContract, AFailedReplacementLeavesEverythingAsItWas) {
   }
   EXPECT_THROW(files().replace_file("", "bytes", Durability::kCached), ActionError);
   EXPECT_EQ(folder_.tree(), before);
+}
+
+TEST_P(FileSystemContract, AFolderInAFilesPlaceIsCalledOne) {
+  folder_.write("file", "bytes");
+  folder_.make_folder("SkinList.txt");
+  const std::string folder = folder_.path("SkinList.txt");
+  const auto expect_called_one = [&](const auto& operation) {
+    try {
+      operation();
+      ADD_FAILURE() << "no error";
+    } catch (const ActionError& error) {
+      EXPECT_EQ(error.path(), folder);
+      EXPECT_EQ(error.reason(), "it is a folder");
+    }
+  };
+  expect_called_one([&] { files().replace_file(folder, "bytes", Durability::kCached); });
+  expect_called_one([&] { files().copy_file(folder_.path("file"), folder, Durability::kCached); });
+  expect_called_one([&] { files().read_file(folder); });
 }
 
 TEST_P(FileSystemContract, AFileIsReadInSteps) {

@@ -163,6 +163,17 @@ TEST_F(WindowsFileSystemTest, WildcardsAndStreamsAreNoNames) {
   EXPECT_EQ(folder_.tree(), (Tree{{"File.dat", "bytes"}}));
 }
 
+TEST(WindowsErrors, OfADiskThatFailsTellNothingAndAnAnswerDoes) {
+  for (const DWORD error : {ERROR_CRC, ERROR_IO_DEVICE, ERROR_TOO_MANY_OPEN_FILES, ERROR_NOT_ENOUGH_MEMORY,
+                            ERROR_NO_SYSTEM_RESOURCES}) {
+    EXPECT_TRUE(tells_nothing(error)) << error;
+  }
+  for (const DWORD error : {ERROR_FILE_NOT_FOUND, ERROR_PATH_NOT_FOUND, ERROR_INVALID_NAME,
+                            ERROR_ACCESS_DENIED, ERROR_NOT_READY, ERROR_BAD_NETPATH}) {
+    EXPECT_FALSE(tells_nothing(error)) << error;
+  }
+}
+
 TEST_F(WindowsFileSystemTest, AnErrorCarriesTheSystemsText) {
   try {
     files_->read_file(folder_.path("nothing"));

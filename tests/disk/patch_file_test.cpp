@@ -76,24 +76,14 @@ TEST_F(PatchFileTest, AnErrorHalfWayKeepsWhatWasPatchedUpToThere) {
   EXPECT_EQ(folder_.read("Planes.dat"), "AB23");
 }
 
-TEST_F(PatchFileTest, AFileIsToldFromOneThatIsMissing) {
-  EXPECT_FALSE(is_there(files_, path_));
-  folder_.make_folder("Savedata");
-  EXPECT_FALSE(is_there(files_, folder_.path("Savedata"))) << "a folder is no file";
-  folder_.write("PLANES.DAT", "there");
-  EXPECT_TRUE(is_there(files_, path_));
-}
-
-TEST_F(PatchFileTest, AFileThatCannotBeSeenForTheMomentIsNotTakenForMissing) {
+TEST_F(PatchFileTest, AFileThatCannotBeSeenIsNotTakenForMissing) {
   test::FaultyFileSystem faulty(*disk_);
   folder_.write("PLANES.DAT", "0123");
-  faulty.arm({1});
-  EXPECT_TRUE(is_there(faulty, path_));
-  faulty.arm({1, test::FaultKind::kError, test::FaultSpan::kPersistent});
-  EXPECT_THROW(static_cast<void>(is_there(faulty, path_)), ActionError);
-  faulty.arm({1});
-  patch_file(faulty, path_, [](PatchedBytes& bytes) { bytes.put(0, "A"); });
-  EXPECT_EQ(folder_.read("PLANES.DAT"), "A123");
+  for (const test::FaultKind kind : {test::FaultKind::kError, test::FaultKind::kNoRight}) {
+    faulty.arm({1, kind});
+    EXPECT_THROW(patch_file(faulty, path_, [](PatchedBytes& bytes) { bytes.put(0, "A"); }), ActionError);
+    EXPECT_EQ(folder_.read("PLANES.DAT"), "0123");
+  }
 }
 
 TEST_F(PatchFileTest, SeveralStepsReadAndWriteTheFileOnce) {
@@ -104,7 +94,7 @@ TEST_F(PatchFileTest, SeveralStepsReadAndWriteTheFileOnce) {
     file.open().put(3, "D");
   });
   EXPECT_EQ(folder_.read("Planes.dat"), "A12D");
-  EXPECT_EQ(files_.changes(), Log{"replace " + path_});
+  EXPECT_EQ(files_.changes(), Log{"replace " + path_ + " (flushed)"});
 }
 
 TEST_F(PatchFileTest, StepsThatNeverOpenTheFileNeitherReadNorMakeIt) {

@@ -124,7 +124,7 @@ TEST_P(AircraftInstallerFaults, LeaveEveryFileWholeAndCanBeResumed) {
     for (const auto& [name, bytes] : tree) {
       ASSERT_TRUE(is_neighbour(name) || recorder.states.contains(name)) << name << " should not be there";
     }
-    // An existence test that is struck answers no, which is no failure: the run then takes another way.
+    // An existence test without a right answers no, which is no failure: the run then takes another way.
     if (!ended_with_error) continue;
     ++failures;
     for (const auto& [name, bytes] : tree) {
@@ -141,6 +141,8 @@ TEST_P(AircraftInstallerFaults, LeaveEveryFileWholeAndCanBeResumed) {
 INSTANTIATE_TEST_SUITE_P(Sweep, AircraftInstallerFaults,
                          ::testing::Values(std::pair(FaultKind::kError, FaultSpan::kOnce),
                                            std::pair(FaultKind::kError, FaultSpan::kPersistent),
+                                           std::pair(FaultKind::kNoRight, FaultSpan::kOnce),
+                                           std::pair(FaultKind::kNoRight, FaultSpan::kPersistent),
                                            std::pair(FaultKind::kShortWrite, FaultSpan::kOnce),
                                            std::pair(FaultKind::kShortWrite, FaultSpan::kPersistent),
                                            std::pair(FaultKind::kDiskFull, FaultSpan::kOnce),

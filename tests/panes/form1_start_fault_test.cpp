@@ -53,6 +53,8 @@ TEST_P(StartFaults, EndStartUpAndLeaveEveryFileWhole) {
 INSTANTIATE_TEST_SUITE_P(Sweep, StartFaults,
                          ::testing::Values(std::pair(FaultKind::kError, FaultSpan::kOnce),
                                            std::pair(FaultKind::kError, FaultSpan::kPersistent),
+                                           std::pair(FaultKind::kNoRight, FaultSpan::kOnce),
+                                           std::pair(FaultKind::kNoRight, FaultSpan::kPersistent),
                                            std::pair(FaultKind::kShortWrite, FaultSpan::kOnce),
                                            std::pair(FaultKind::kShortWrite, FaultSpan::kPersistent),
                                            std::pair(FaultKind::kDiskFull, FaultSpan::kOnce),

@@ -247,8 +247,8 @@ TEST_F(Work, TheHeaderRowIsNeverASelectedRow) {
 TEST_F(Work, ACareerSaveSurvivesEveryFaultOfTheCleanUpAndTheSecondTryCompletesIt) {
   int faults = 0;
   for (const auto span : {test::FaultSpan::kOnce, test::FaultSpan::kPersistent}) {
-    for (const auto kind :
-         {test::FaultKind::kError, test::FaultKind::kShortWrite, test::FaultKind::kDiskFull}) {
+    for (const auto kind : {test::FaultKind::kError, test::FaultKind::kNoRight, test::FaultKind::kShortWrite,
+                            test::FaultKind::kDiskFull}) {
       int number = 1;
       for (bool struck = true; struck; ++number) {
         const test::TemporaryFolder game;

@@ -135,6 +135,8 @@ TEST_P(GameInstallerFaults, LeaveEveryFileWholeAndCanBeResumed) {
 INSTANTIATE_TEST_SUITE_P(Sweep, GameInstallerFaults,
                          ::testing::Values(std::pair(FaultKind::kError, FaultSpan::kOnce),
                                            std::pair(FaultKind::kError, FaultSpan::kPersistent),
+                                           std::pair(FaultKind::kNoRight, FaultSpan::kOnce),
+                                           std::pair(FaultKind::kNoRight, FaultSpan::kPersistent),
                                            std::pair(FaultKind::kShortWrite, FaultSpan::kOnce),
                                            std::pair(FaultKind::kShortWrite, FaultSpan::kPersistent),
                                            std::pair(FaultKind::kDiskFull, FaultSpan::kOnce),

@@ -11,6 +11,7 @@ namespace vorlund::test {
 namespace {
 
 std::string_view reason(FaultKind kind) {
+  if (kind == FaultKind::kNoRight) return "Permission denied";
   return kind == FaultKind::kDiskFull ? "No space left on device" : "Input/output error";
 }
 
@@ -31,16 +32,17 @@ void FaultyFileSystem::disarm() {
 bool FaultyFileSystem::before(const Operation& operation) {
   if (!armed_) return true;
   const bool writing = operation.effect == Effect::kWriting;
-  if (fault_.kind != FaultKind::kError && !writing) return true;
+  const bool leaves_half = fault_.kind == FaultKind::kShortWrite || fault_.kind == FaultKind::kDiskFull;
+  if (leaves_half && !writing) return true;
   ++operations_;
   const bool strikes =
       fault_.span == FaultSpan::kOnce ? operations_ == fault_.number : operations_ >= fault_.number;
   if (!strikes) return true;
 
   if (struck_operation_.empty()) struck_operation_ = operation.text;
-  if (operation.effect == Effect::kQuestion) return false;
+  if (operation.effect == Effect::kQuestion && fault_.kind == FaultKind::kNoRight) return false;
   failed_ = true;
-  if (fault_.kind != FaultKind::kError) leave_half(operation);
+  if (leaves_half) leave_half(operation);
   throw ActionError("carry out", operation.text, reason(fault_.kind));
 }
 

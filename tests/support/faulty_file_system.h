@@ -9,6 +9,7 @@ namespace vorlund::test {
 
 enum class FaultKind {
   kError,       ///< the operation does nothing and fails
+  kNoRight,     ///< there is no right to it: an existence test answers no, everything else fails
   kShortWrite,  ///< a write puts half of its bytes where it would have written them, and fails
   kDiskFull,    ///< as kShortWrite, and the disk is full
 };
@@ -25,8 +26,7 @@ struct Fault {
 };
 
 /// Hands everything on until the operation that is to fail. Each operation has a number, in order, from the
-/// arming of the fault; for kShortWrite and kDiskFull only those that write a file are numbered. An existence
-/// test never fails: struck by a fault it answers no.
+/// arming of the fault; for kShortWrite and kDiskFull only those that write a file are numbered.
 class FaultyFileSystem : public ForwardingFileSystem {
  public:
   using ForwardingFileSystem::ForwardingFileSystem;
@@ -40,10 +40,10 @@ class FaultyFileSystem : public ForwardingFileSystem {
   /// Operations numbered since the fault was armed.
   int operations() const { return operations_; }
 
-  /// True when the fault has struck, existence tests included.
+  /// True when the fault has struck.
   bool struck() const { return !struck_operation_.empty(); }
 
-  /// True when an operation that can fail has failed, so that an error must have come out.
+  /// True when an operation has failed, and has not just answered no, so that an error must have come out.
   bool failed() const { return failed_; }
 
   /// The first operation that was struck, in the words of RecordingFileSystem.

@@ -31,6 +31,15 @@ bool ForwardingFileSystem::FolderExists(std::string_view path) {
   return before({Effect::kQuestion, words("folder exists", path), {}, {}, {}}) && inner_.FolderExists(path);
 }
 
+bool ForwardingFileSystem::is_there(std::string_view path) {
+  before({Effect::kReading, words("file is there", path), {}, {}, {}});
+  return inner_.is_there(path);
+}
+
+std::vector<std::string> ForwardingFileSystem::take_unseen() {
+  return inner_.take_unseen();
+}
+
 bool ForwardingFileSystem::lies_inside(std::string_view folder, std::string_view root) {
   std::string text = words("lies inside", root).append(": ").append(folder);
   return before({Effect::kQuestion, std::move(text), {}, {}, {}}) && inner_.lies_inside(folder, root);

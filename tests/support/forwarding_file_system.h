@@ -18,7 +18,9 @@ class ForwardingFileSystem : public FileSystem {
   std::string current_folder() override;
   bool FileExists(std::string_view path) override;
   bool FolderExists(std::string_view path) override;
+  bool is_there(std::string_view path) override;
   bool lies_inside(std::string_view folder, std::string_view root) override;
+  std::vector<std::string> take_unseen() override;
   std::vector<FolderEntry> entries(std::string_view folder) override;
   std::unique_ptr<FileReader> open_file(std::string_view path) override;
   void replace_file(std::string_view path, std::string_view bytes, Durability durability) override;
@@ -29,7 +31,7 @@ class ForwardingFileSystem : public FileSystem {
 
  protected:
   enum class Effect {
-    kQuestion,  ///< an existence test, which never fails
+    kQuestion,  ///< an existence test, which says no where there is no right to look
     kReading,   ///< leaves the disk as it is
     kWriting,   ///< changes the bytes of a file
     kChanging,  ///< deletes a file or starts a program
@@ -44,7 +46,7 @@ class ForwardingFileSystem : public FileSystem {
     std::string_view bytes;   ///< what replaces the file, where nothing is copied
   };
 
-  /// Called before each operation. Returning false makes a question answer no; throwing fails the rest.
+  /// Called before each operation. Returning false makes a question answer no; throwing fails any.
   virtual bool before(const Operation&) { return true; }
 
   void begin_action(Pulse pulse, std::string_view staging) override;

@@ -10,9 +10,10 @@ namespace vorlund::test {
 
 /// Logs every operation, also one that then fails, and hands it on.
 ///
-/// The texts are: "find the current folder", "file exists P", "folder exists P", "list P", "read P",
-/// "replace P", "copy P -> Q", "remove P", "start P in Q", "lock P, Q",
-/// "begin action" and "end action"; "replace" and "copy" end in " (flushed)" where the file is flushed.
+/// The texts are: "find the current folder", "file exists P", "folder exists P", "file is there P", "lies
+/// inside R: P", "list P", "read P", "replace P", "copy P -> Q", "remove P", "start P in Q", "lock
+/// P, Q", "begin action"
+/// and "end action"; "replace" and "copy" end in " (flushed)" where the file is flushed.
 class RecordingFileSystem : public ForwardingFileSystem {
  public:
   using ForwardingFileSystem::ForwardingFileSystem;

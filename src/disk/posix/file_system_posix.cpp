@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <set>
 #include <utility>
 
 #include "base/action_error.h"
@@ -25,7 +26,9 @@ class PosixFileSystem final : public FileSystem {
   std::string current_folder() override;
   bool FileExists(std::string_view path) override;
   bool FolderExists(std::string_view path) override;
+  bool is_there(std::string_view path) override;
   bool lies_inside(std::string_view folder, std::string_view root) override;
+  std::vector<std::string> take_unseen() override;
   std::vector<FolderEntry> entries(std::string_view folder) override;
   std::unique_ptr<FileReader> open_file(std::string_view path) override;
   void replace_file(std::string_view path, std::string_view bytes, Durability durability) override;
@@ -52,14 +55,22 @@ class PosixFileSystem final : public FileSystem {
   template <typename Attempt>
   bool with_spelling(Place& place, Attempt attempt);
 
+  /// What is at the path, of either kind. False where nothing is; where there is no right to look as well,
+  /// and that is noted. Otherwise a failure is an error.
   bool find(std::string_view path, EntryKind kind, struct stat& status);
-  /// Not open, with errno, where the place is no folder.
-  FileHandle open_folder(Place& place);
+  /// The same for a look that has failed, with errno.
+  void take_for_missing(std::string_view path);
+  /// The kind of what stands in a folder, a link taken as what it leads to; none for what is neither.
+  std::optional<EntryKind> kind_of(int descriptor, const PosixFolderReader::Entry& entry,
+                                   std::string_view folder);
+  /// Not open, with errno, where the place is no folder. `open` opens a name inside an open folder.
+  FileHandle open_folder(Place& place, FileHandle (*open)(int folder, const char* name));
   PosixSource open_source(std::string_view path);
   PosixTarget open_target(std::string_view path, Spelling spelling);
 
   PosixFolders folders_;
   PosixContent content_;
+  std::set<std::string> unseen_;          ///< paths that there was no right to look at
   std::shared_ptr<PosixFolder> staging_;  ///< where copies are written; none: beside their targets
 };
 
@@ -86,8 +97,18 @@ bool PosixFileSystem::with_spelling(Place& place, Attempt attempt) {
 
 bool PosixFileSystem::find(std::string_view path, EntryKind kind, struct stat& status) {
   Place place = place_of(path, kind);
-  return with_spelling(
-      place, [&status](int folder, const char* name) { return ::fstatat(folder, name, &status, 0) == 0; });
+  const bool found =
+      with_spelling(place, [&status](int folder, const char* name) { return look_at(folder, name, status); });
+  if (!found) take_for_missing(path);
+  return found;
+}
+
+void PosixFileSystem::take_for_missing(std::string_view path) {
+  if (says_no_right(errno)) {
+    unseen_.emplace(path);
+  } else if (!says_missing(errno)) {
+    throw_system_error("look for", path);
+  }
 }
 
 std::string PosixFileSystem::current_folder() {
@@ -110,10 +131,28 @@ bool PosixFileSystem::FolderExists(std::string_view path) {
   return find(path, EntryKind::kFolder, status) && S_ISDIR(status.st_mode);
 }
 
-FileHandle PosixFileSystem::open_folder(Place& place) {
+bool PosixFileSystem::is_there(std::string_view path) {
+  struct stat status {};
+  Place place = place_of(path, EntryKind::kFile);
+  const bool found =
+      with_spelling(place, [&status](int folder, const char* name) { return look_at(folder, name, status); });
+  if (!found && !says_missing(errno)) throw_system_error("look for", path);
+  return found && S_ISREG(status.st_mode);
+}
+
+std::vector<std::string> PosixFileSystem::take_unseen() {
+  const std::set<std::string> unseen = std::exchange(unseen_, {});
+  return {unseen.begin(), unseen.end()};
+}
+
+FileHandle open_to_list(int folder, const char* name) {
+  return open_at(folder, name, O_RDONLY | O_DIRECTORY);
+}
+
+FileHandle PosixFileSystem::open_folder(Place& place, FileHandle (*open)(int, const char*)) {
   FileHandle handle;
-  with_spelling(place, [&handle](int parent, const char* name) {
-    handle = open_at(parent, name, O_RDONLY | O_DIRECTORY);
+  with_spelling(place, [&handle, open](int parent, const char* name) {
+    handle = open(parent, name);
     return handle.is_open();
   });
   return handle;
@@ -124,49 +163,56 @@ bool same_entry(const struct stat& a, const struct stat& b) {
 }
 
 bool PosixFileSystem::lies_inside(std::string_view folder, std::string_view root) {
+  constexpr std::string_view kAttempted = "find out what lies above";
   struct stat wanted {};
   struct stat status {};
   Place place = place_of(folder, EntryKind::kFolder);
-  FileHandle handle = open_folder(place);
-  if (!handle.is_open() || ::fstat(handle.descriptor(), &status) != 0) return false;
+  FileHandle handle = open_folder(place, open_folder_at);
+  if (!handle.is_open()) {
+    take_for_missing(folder);
+    return false;
+  }
+  if (::fstat(handle.descriptor(), &status) != 0) throw_system_error(kAttempted, folder);
   if (!find(root, EntryKind::kFolder, wanted)) return false;
   // Upwards by "..", whatever links led down; the root of the disk is its own parent.
   while (!same_entry(status, wanted)) {
     struct stat parent {};
-    handle = open_at(handle.descriptor(), "..", O_RDONLY | O_DIRECTORY);
-    if (!handle.is_open() || ::fstat(handle.descriptor(), &parent) != 0) return false;
+    handle = open_folder_at(handle.descriptor(), "..");
+    if (!handle.is_open() || ::fstat(handle.descriptor(), &parent) != 0)
+      throw_system_error(kAttempted, folder);
     if (same_entry(status, parent)) return false;
     status = parent;
   }
   return true;
 }
 
-/// Tells files from folders; a link counts as what it leads to. False for what is neither.
-bool kind_of(int folder, const PosixFolderReader::Entry& entry, EntryKind& kind) {
-  auto mode = static_cast<mode_t>(DTTOIF(entry.type));
-  if (entry.type != DT_REG && entry.type != DT_DIR) {
-    struct stat status {};
-    if (::fstatat(folder, entry.name, &status, 0) != 0) return false;
-    mode = status.st_mode;
+std::optional<EntryKind> PosixFileSystem::kind_of(int descriptor, const PosixFolderReader::Entry& entry,
+                                                  std::string_view folder) {
+  if (entry.type == DT_REG) return EntryKind::kFile;
+  if (entry.type == DT_DIR) return EntryKind::kFolder;
+  struct stat status {};
+  if (!look_at(descriptor, entry.name, status)) {
+    take_for_missing(std::string(folder).append("\\").append(entry.name));
+    return std::nullopt;
   }
-  kind = S_ISDIR(mode) ? EntryKind::kFolder : EntryKind::kFile;
-  return S_ISDIR(mode) || S_ISREG(mode);
+  if (S_ISDIR(status.st_mode)) return EntryKind::kFolder;
+  return S_ISREG(status.st_mode) ? std::optional(EntryKind::kFile) : std::nullopt;
 }
 
 std::vector<FolderEntry> PosixFileSystem::entries(std::string_view folder) {
   constexpr std::string_view kAttempted = "list the folder";
   Place place = place_of(folder, EntryKind::kFolder);
-  FileHandle handle = open_folder(place);
-  if (!handle.is_open() && (errno == ENOENT || errno == ENOTDIR)) return {};
+  FileHandle handle = open_folder(place, open_to_list);
+  if (!handle.is_open() && says_missing(errno)) return {};
   if (!handle.is_open()) throw_system_error(kAttempted, folder);
 
   std::vector<FolderEntry> found;
   PosixFolderReader reader(handle.descriptor());
   while (const auto* entry = reader.next()) {
     const std::string_view name = entry->name;
-    EntryKind kind{};
-    if (name.find('\\') != std::string_view::npos || !kind_of(handle.descriptor(), *entry, kind)) continue;
-    found.push_back({std::string(name), kind, name.front() == '.'});
+    if (name.find('\\') != std::string_view::npos) continue;
+    const auto kind = kind_of(handle.descriptor(), *entry, folder);
+    if (kind) found.push_back({std::string(name), *kind, name.front() == '.'});
   }
   if (errno != 0) throw_system_error(kAttempted, folder);
   return found;
@@ -181,7 +227,7 @@ PosixSource PosixFileSystem::open_source(std::string_view path) {
     return source.handle.is_open();
   });
   if (!opened || ::fstat(source.handle.descriptor(), &source.status) != 0) throw_system_error("read", path);
-  if (S_ISDIR(source.status.st_mode)) throw_system_error("read", path, EISDIR);
+  if (S_ISDIR(source.status.st_mode)) throw ActionError("read", path, kIsFolder);
   if (!S_ISREG(source.status.st_mode)) throw ActionError("read", path, "it is not a regular file");
   return source;
 }
@@ -252,7 +298,7 @@ void PosixFileSystem::remove_file(std::string_view path) {
   Place place = place_of(path, EntryKind::kFile);
   struct stat status {};
   const bool found = with_spelling(place, [&status](int folder, const char* name) {
-    return ::fstatat(folder, name, &status, AT_SYMLINK_NOFOLLOW) == 0;
+    return look_at(folder, name, status, AT_SYMLINK_NOFOLLOW);
   });
   if (!found) throw_system_error(kAttempted, path);
   refuse_read_only(status, kAttempted, path);
@@ -265,14 +311,14 @@ void PosixFileSystem::start_program(std::string_view path, std::string_view fold
   Place program = place_of(path, EntryKind::kFile);
   struct stat status {};
   const bool found = with_spelling(
-      program, [&status](int parent, const char* name) { return ::fstatat(parent, name, &status, 0) == 0; });
+      program, [&status](int parent, const char* name) { return look_at(parent, name, status); });
   if (!found) throw_system_error("start", path);
   const std::string beginning = read_file(path, 2);
   std::string spelled = join_path(program.folder->path(), program.name);
   if (spelled.front() != '/') spelled = join_path(current_folder(), spelled);
 
   Place place = place_of(folder, EntryKind::kFolder);
-  const FileHandle start_folder = open_folder(place);
+  const FileHandle start_folder = open_folder(place, open_folder_at);
   if (!start_folder.is_open()) throw_system_error("start a program in", folder);
   start_detached(command_for(spelled, beginning), start_folder.descriptor(), path);
 }
@@ -282,10 +328,10 @@ FolderLocks PosixFileSystem::lock_folders(const std::vector<std::string>& folder
   std::vector<std::unique_ptr<FolderLock>> locks;
   for (const std::string& path : folders) {
     Place place = place_of(path, EntryKind::kFolder);
-    FileHandle handle = open_folder(place);
+    FileHandle handle = open_folder(place, open_to_list);
     if (handle.is_open()) {
       locks.push_back(std::make_unique<PosixFolderLock>(path, std::move(handle)));
-    } else if (errno != ENOENT && errno != ENOTDIR && errno != ELOOP && errno != ENAMETOOLONG) {
+    } else if (!says_missing(errno)) {
       throw_system_error("lock the folder", path);
     }
   }
@@ -294,6 +340,7 @@ FolderLocks PosixFileSystem::lock_folders(const std::vector<std::string>& folder
 
 void PosixFileSystem::begin_action(Pulse pulse, std::string_view staging) {
   content_.set_pulse(std::move(pulse));
+  unseen_.clear();
   folders_.remember();
   if (!staging.empty()) staging_ = place_of(join_path(staging, "any"), EntryKind::kFile).folder;
 }

@@ -12,6 +12,12 @@
 
 namespace vorlund {
 
+FileHandle::~FileHandle() {
+  const int error = errno;
+  close();
+  errno = error;
+}
+
 FileHandle& FileHandle::operator=(FileHandle&& other) noexcept {
   const int taken = other.release();
   close();
@@ -52,6 +58,31 @@ FileHandle open_to_read(int folder, const char* name, int flags) {
   if (unmarked.is_open() || errno != EPERM) return unmarked;
 #endif
   return open_at(folder, name, O_RDONLY | O_NONBLOCK | flags);
+}
+
+FileHandle open_folder_at(int folder, const char* name) {
+#ifdef O_PATH
+  return open_at(folder, name, O_PATH | O_DIRECTORY);
+#else
+  return open_at(folder, name, O_RDONLY | O_DIRECTORY);
+#endif
+}
+
+bool look_at(int folder, const char* name, struct stat& status, int flags) {
+  int result = -1;
+  do {
+    result = ::fstatat(folder, name, &status, flags);
+  } while (result != 0 && errno == EINTR);
+  return result == 0;
+}
+
+bool says_missing(int error) {
+  return error == ENOENT || error == ENOTDIR || error == ENAMETOOLONG || error == ELOOP || error == EINVAL ||
+         error == EILSEQ;
+}
+
+bool says_no_right(int error) {
+  return error == EACCES || error == EPERM;
 }
 
 ssize_t read_up_to(int descriptor, char* bytes, std::size_t size) {

@@ -20,12 +20,6 @@ namespace {
 /// An action works in a handful of folders at a time; the bound keeps descriptors and memory small.
 constexpr std::size_t kFoldersKept = 16;
 
-#ifdef O_PATH
-constexpr int kFolderFlags = O_PATH | O_DIRECTORY;
-#else
-constexpr int kFolderFlags = O_RDONLY | O_DIRECTORY;
-#endif
-
 }  // namespace
 
 SplitPath split_path(std::string_view path) {
@@ -153,11 +147,15 @@ void PosixFolder::sweep_left_overs() {
   };
   if (names_) {
     std::for_each(names_->first.begin(), names_->first.end(), take);
-  } else {
-    read_names(take);
+  } else if (!read_names(take) && !says_no_right(errno)) {
+    throw_system_error("list the folder", path_);
   }
   for (const std::string& name : left_overs) {
-    if (::unlinkat(descriptor(), name.c_str(), 0) == 0) name_removed(name);
+    if (::unlinkat(descriptor(), name.c_str(), 0) == 0) {
+      name_removed(name);
+    } else if (errno == EIO || errno == ENOMEM) {
+      throw_system_error("delete", join_path(path_, name));
+    }
   }
 }
 
@@ -195,7 +193,7 @@ void PosixFolders::forget() {
 std::shared_ptr<PosixFolder> PosixFolders::open(const std::string& path) {
   if (auto folder = kept(path)) return folder;
 
-  FileHandle handle = open_at(AT_FDCWD, path.c_str(), kFolderFlags);
+  FileHandle handle = open_folder_at(AT_FDCWD, path.c_str());
   if (handle.is_open()) return keep(path, std::move(handle), path);
   const SplitPath parts = split_path(path);
   if (errno != ENOENT || parts.name == ".") return nullptr;
@@ -203,12 +201,12 @@ std::shared_ptr<PosixFolder> PosixFolders::open(const std::string& path) {
   const auto parent = open(parts.folder);
   if (!parent) return nullptr;
   std::string spelled = parts.name;
-  handle = open_at(parent->descriptor(), spelled.c_str(), kFolderFlags);
+  handle = open_folder_at(parent->descriptor(), spelled.c_str());
   if (!handle.is_open() && errno == ENOENT) {
     const auto other = parent->other_spelling(parts.name);
     if (!other) return nullptr;
     spelled = *other;
-    handle = open_at(parent->descriptor(), spelled.c_str(), kFolderFlags);
+    handle = open_folder_at(parent->descriptor(), spelled.c_str());
   }
   if (!handle.is_open()) return nullptr;
   return keep(path, std::move(handle), join_path(parent->path(), spelled));

@@ -65,7 +65,7 @@ class PosixFolder {
   std::optional<std::string> other_spelling(std::string_view name);
 
   /// Deletes the files that a write of a process that runs no more has left here, once in the folder's life.
-  /// Such that can't be deleted stay.
+  /// Such that must not be deleted stay; a disk that fails is an ActionError.
   void sweep_left_overs();
 
   /// Keep what is remembered in step with the disk.

@@ -88,15 +88,12 @@ void PosixTarget::look_at(const std::string& spelling) {
   if (!existing_.is_open()) {
     existing_ = open_to_read(folder_->descriptor(), spelling.c_str(), O_NOFOLLOW);
   }
-  const int result = existing_.is_open()
-                         ? ::fstat(existing_.descriptor(), &status_)
-                         : ::fstatat(folder_->descriptor(), spelling.c_str(), &status_, AT_SYMLINK_NOFOLLOW);
-  if (result != 0 && errno == ENOENT) return;
-  if (result != 0) fail();
-  if (S_ISDIR(status_.st_mode)) {
-    errno = EISDIR;
-    fail();
-  }
+  const bool seen = existing_.is_open() ? ::fstat(existing_.descriptor(), &status_) == 0
+                                        : vorlund::look_at(folder_->descriptor(), spelling.c_str(), status_,
+                                                           AT_SYMLINK_NOFOLLOW);
+  if (!seen && errno == ENOENT) return;
+  if (!seen) fail();
+  if (S_ISDIR(status_.st_mode)) throw ActionError("write", path_, kIsFolder);
   if (!S_ISREG(status_.st_mode)) existing_.close();
   current_ = spelling;
 }
@@ -108,7 +105,7 @@ bool PosixTarget::keep(Durability durability) {
     settle_spelling();
   }
   if (durability == Durability::kFlushed) {
-    if (::fsync(existing_.descriptor()) != 0) fail();
+    if (::fsync(existing_.descriptor()) != 0) fail("flush");
     flush_folder();
   }
   return as_asked;
@@ -151,7 +148,7 @@ void PosixTarget::set_mode(mode_t mode) {
 }
 
 bool PosixTarget::finish(Durability durability) {
-  if (durability == Durability::kFlushed && ::fsync(written_.descriptor()) != 0) fail();
+  if (durability == Durability::kFlushed && ::fsync(written_.descriptor()) != 0) fail("flush");
   // Asked while the file is open: some disks number a file anew once nobody has it open.
   if (!names_written()) {
     if (errno != 0) fail();
@@ -177,14 +174,17 @@ bool PosixTarget::finish(Durability durability) {
 /// folders, network and FUSE disks): there it is left to them.
 void PosixTarget::flush_folder() const {
   const FileHandle opened = open_at(folder_->descriptor(), ".", O_RDONLY | O_DIRECTORY);
-  if (!opened.is_open() || (::fsync(opened.descriptor()) != 0 && errno != EINVAL && errno != ENOTSUP)) fail();
+  if (!opened.is_open() || (::fsync(opened.descriptor()) != 0 && errno != EINVAL && errno != ENOTSUP))
+    fail("flush the folder of");
 }
 
 void PosixTarget::refuse_read_only_others() const {
   for (const std::string& other : others_) {
     struct stat status {};
-    if (::fstatat(folder_->descriptor(), other.c_str(), &status, AT_SYMLINK_NOFOLLOW) == 0) {
+    if (vorlund::look_at(folder_->descriptor(), other.c_str(), status, AT_SYMLINK_NOFOLLOW)) {
       refuse_read_only(status, "write", path_);
+    } else if (errno != ENOENT) {
+      fail();
     }
   }
 }
@@ -193,7 +193,7 @@ void PosixTarget::refuse_read_only_others() const {
 void PosixTarget::settle_spelling() {
   if (is_there() && current_ != name_) {
     if (::renameat(folder_->descriptor(), current_.c_str(), folder_->descriptor(), name_.c_str()) != 0)
-      fail();
+      fail("give its spelling to");
     folder_->name_removed(current_);
     folder_->name_added(name_);
     current_ = name_;
@@ -202,13 +202,13 @@ void PosixTarget::settle_spelling() {
     if (::unlinkat(folder_->descriptor(), other.c_str(), 0) == 0 || errno == ENOENT) {
       folder_->name_removed(other);
     } else if (errno != EISDIR && errno != EPERM) {
-      fail();
+      fail("delete the other spelling of");
     }
   }
 }
 
-void PosixTarget::fail() const {
-  throw_system_error("write", path_);
+void PosixTarget::fail(std::string_view attempted) const {
+  throw_system_error(attempted, path_);
 }
 
 }  // namespace vorlund

@@ -62,7 +62,7 @@ class PosixTarget {
   void set_mode(mode_t mode);
   void settle_spelling();
   void flush_folder() const;
-  [[noreturn]] void fail() const;
+  [[noreturn]] void fail(std::string_view attempted = "write") const;
 
   std::shared_ptr<PosixFolder> folder_;
   std::string name_;

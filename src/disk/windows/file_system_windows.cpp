@@ -2,6 +2,8 @@
 #include <windows.h>
 
 #include <algorithm>
+#include <memory>
+#include <set>
 #include <utility>
 
 #include "base/action_error.h"
@@ -15,7 +17,7 @@ namespace vorlund {
 
 namespace {
 
-/// Attributes of what a path leads to, links followed.
+/// Attributes of what a path leads to, links followed; none, with the system's error, on failure.
 std::optional<DWORD> attributes_of(const std::wstring& path) {
   const DWORD attributes = GetFileAttributesW(path.c_str());
   if (attributes == INVALID_FILE_ATTRIBUTES) return std::nullopt;
@@ -26,7 +28,7 @@ std::optional<DWORD> attributes_of(const std::wstring& path) {
   return information.dwFileAttributes;
 }
 
-/// Where links lead a folder's path, ending in a backslash; "" where there is no such folder.
+/// Where links lead a folder's path, ending in a backslash; "", with the system's error, on failure.
 std::wstring resolved_folder(std::string_view path) {
   const WindowsHandle opened =
       open_existing(long_path(path, EntryKind::kFolder), FILE_READ_ATTRIBUTES, FILE_FLAG_BACKUP_SEMANTICS);
@@ -44,12 +46,19 @@ bool is_folder(DWORD attributes) {
   return (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
 }
 
+struct CloseSearch {
+  void operator()(HANDLE search) const { FindClose(search); }
+};
+using Search = std::unique_ptr<void, CloseSearch>;
+
 class WindowsFileSystem final : public FileSystem {
  public:
   std::string current_folder() override;
   bool FileExists(std::string_view path) override;
   bool FolderExists(std::string_view path) override;
+  bool is_there(std::string_view path) override;
   bool lies_inside(std::string_view folder, std::string_view root) override;
+  std::vector<std::string> take_unseen() override;
   std::vector<FolderEntry> entries(std::string_view folder) override;
   std::unique_ptr<FileReader> open_file(std::string_view path) override;
   void replace_file(std::string_view path, std::string_view bytes, Durability durability) override;
@@ -62,11 +71,19 @@ class WindowsFileSystem final : public FileSystem {
   // Windows finds names in any spelling by itself, so there is nothing to remember during an action.
   /// Copies are written beside their targets: a file moved out of another folder would keep the access rights
   /// that it inherited there.
-  void begin_action(Pulse pulse, std::string_view) override { content_.set_pulse(std::move(pulse)); }
+  void begin_action(Pulse pulse, std::string_view) override {
+    content_.set_pulse(std::move(pulse));
+    unseen_.clear();
+  }
   void end_action() override { content_.set_pulse({}); }
 
  private:
+  /// After a look that failed: returns where nothing is there; where there is no right to look as well, and
+  /// that is noted. Otherwise the failure is an error.
+  void take_for_missing(std::string_view path);
+
   WindowsContent content_;
+  std::set<std::string> unseen_;  ///< paths that there was no right to look at
 };
 
 std::string WindowsFileSystem::current_folder() {
@@ -75,19 +92,43 @@ std::string WindowsFileSystem::current_folder() {
   return from_wide(folder);
 }
 
+void WindowsFileSystem::take_for_missing(std::string_view path) {
+  const DWORD error = GetLastError();
+  if (error == ERROR_ACCESS_DENIED) unseen_.emplace(path);
+  if (tells_nothing(error)) throw_windows_error("look for", path, error);
+}
+
+std::vector<std::string> WindowsFileSystem::take_unseen() {
+  const std::set<std::string> unseen = std::exchange(unseen_, {});
+  return {unseen.begin(), unseen.end()};
+}
+
 bool WindowsFileSystem::FileExists(std::string_view path) {
   const auto attributes = attributes_of(long_path(path, EntryKind::kFile));
+  if (!attributes) take_for_missing(path);
   return attributes && !is_folder(*attributes);
 }
 
 bool WindowsFileSystem::FolderExists(std::string_view path) {
   const auto attributes = attributes_of(long_path(path, EntryKind::kFolder));
+  if (!attributes) take_for_missing(path);
   return attributes && is_folder(*attributes);
 }
 
+bool WindowsFileSystem::is_there(std::string_view path) {
+  const auto attributes = attributes_of(long_path(path, EntryKind::kFile));
+  const DWORD error = attributes ? ERROR_SUCCESS : GetLastError();
+  if (error == ERROR_ACCESS_DENIED || tells_nothing(error)) throw_windows_error("look for", path, error);
+  return attributes && !is_folder(*attributes);
+}
+
 bool WindowsFileSystem::lies_inside(std::string_view folder, std::string_view root) {
+  if (!FolderExists(folder)) return false;
   const std::wstring above = resolved_folder(root);
-  return !above.empty() && FolderExists(folder) && resolved_folder(folder).starts_with(above);
+  if (above.empty()) take_for_missing(root);
+  const std::wstring below = resolved_folder(folder);
+  if (below.empty()) take_for_missing(folder);
+  return !above.empty() && below.starts_with(above);
 }
 
 std::vector<FolderEntry> WindowsFileSystem::entries(std::string_view folder) {
@@ -96,27 +137,30 @@ std::vector<FolderEntry> WindowsFileSystem::entries(std::string_view folder) {
   if (prefix.back() != L'\\') prefix += L'\\';
 
   WIN32_FIND_DATAW entry;
-  const HANDLE search = FindFirstFileExW((prefix + L"*").c_str(), FindExInfoBasic, &entry,
-                                         FindExSearchNameMatch, nullptr, FIND_FIRST_EX_LARGE_FETCH);
-  if (search == INVALID_HANDLE_VALUE) {
+  const HANDLE first = FindFirstFileExW((prefix + L"*").c_str(), FindExInfoBasic, &entry,
+                                        FindExSearchNameMatch, nullptr, FIND_FIRST_EX_LARGE_FETCH);
+  if (first == INVALID_HANDLE_VALUE) {
     const DWORD error = GetLastError();
     const bool missing = error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND ||
                          error == ERROR_DIRECTORY || error == ERROR_INVALID_NAME;
     if (!missing) throw_windows_error("list the folder", folder, error);
     return {};
   }
+  const Search search(first);
   std::vector<FolderEntry> found;
   do {
     const std::wstring_view name = entry.cFileName;
     if (name == L"." || name == L"..") continue;
     const auto attributes = is_link(entry) ? attributes_of(prefix + entry.cFileName) : entry.dwFileAttributes;
-    if (!attributes) continue;
+    if (!attributes) {
+      take_for_missing(std::string(folder).append("\\").append(from_wide(name)));
+      continue;
+    }
     const bool hidden = (entry.dwFileAttributes & (FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM)) != 0;
     found.push_back(
         {from_wide(name), is_folder(*attributes) ? EntryKind::kFolder : EntryKind::kFile, hidden});
-  } while (FindNextFileW(search, &entry) != 0);
+  } while (FindNextFileW(search.get(), &entry) != 0);
   const DWORD error = GetLastError();
-  FindClose(search);
   if (error != ERROR_NO_MORE_FILES) throw_windows_error("list the folder", folder, error);
   return found;
 }

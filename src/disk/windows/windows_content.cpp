@@ -1,6 +1,7 @@
 // Own copy loop: the overwriting copy of the run-time library is known to fail here.
 #include "windows/windows_content.h"
 
+#include "base/action_error.h"
 #include "windows/windows_path.h"
 
 namespace vorlund {
@@ -9,6 +10,14 @@ namespace {
 
 constexpr std::size_t kBlock = 256 * 1024;
 constexpr std::uint64_t kPulseBytes = 1 << 20;
+
+/// Leaves the system's error as it is.
+bool is_folder(std::string_view path) {
+  const DWORD error = GetLastError();
+  const DWORD attributes = GetFileAttributesW(long_path(path, EntryKind::kFile).c_str());
+  SetLastError(error);
+  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+}
 
 bool one_file(HANDLE a, HANDLE b) {
   BY_HANDLE_FILE_INFORMATION of_a;
@@ -24,6 +33,7 @@ WindowsSource::WindowsSource(std::string_view path)
     : path_(path),
       handle_(open_existing(long_path(path, EntryKind::kFile), GENERIC_READ, FILE_FLAG_SEQUENTIAL_SCAN)) {
   LARGE_INTEGER size;
+  if (!handle_.is_open() && is_folder(path)) throw ActionError("read", path, kIsFolder);
   if (!handle_.is_open() || GetFileSizeEx(handle_.get(), &size) == 0) throw_windows_error("read", path);
   size_ = static_cast<std::uint64_t>(size.QuadPart);
 }

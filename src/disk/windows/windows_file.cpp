@@ -2,6 +2,7 @@
 #include "windows/windows_file.h"
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 #include "base/action_error.h"
@@ -65,6 +66,29 @@ void throw_windows_error(std::string_view attempted, std::string_view path) {
 
 void throw_windows_error(std::string_view attempted, std::string_view path, DWORD error) {
   throw ActionError(attempted, path, error_text(error));
+}
+
+bool tells_nothing(DWORD error) {
+  static constexpr std::array<DWORD, 19> kErrors = {ERROR_TOO_MANY_OPEN_FILES,
+                                                    ERROR_NOT_ENOUGH_MEMORY,
+                                                    ERROR_OUTOFMEMORY,
+                                                    ERROR_CRC,
+                                                    ERROR_SEEK,
+                                                    ERROR_SECTOR_NOT_FOUND,
+                                                    ERROR_READ_FAULT,
+                                                    ERROR_GEN_FAILURE,
+                                                    ERROR_SEM_TIMEOUT,
+                                                    ERROR_IO_DEVICE,
+                                                    ERROR_DEVICE_NOT_CONNECTED,
+                                                    ERROR_FILE_CORRUPT,
+                                                    ERROR_DISK_CORRUPT,
+                                                    ERROR_NO_SYSTEM_RESOURCES,
+                                                    ERROR_WORKING_SET_QUOTA,
+                                                    ERROR_COMMITMENT_LIMIT,
+                                                    ERROR_NETNAME_DELETED,
+                                                    ERROR_DEV_NOT_EXIST,
+                                                    ERROR_UNEXP_NET_ERR};
+  return std::find(kErrors.begin(), kErrors.end(), error) != kErrors.end();
 }
 
 WindowsHandle open_existing(const std::wstring& path, DWORD access, DWORD flags) {

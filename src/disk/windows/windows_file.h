@@ -34,6 +34,10 @@ class WindowsHandle {
 [[noreturn]] void throw_windows_error(std::string_view attempted, std::string_view path);
 [[noreturn]] void throw_windows_error(std::string_view attempted, std::string_view path, DWORD error);
 
+/// True for an error that says nothing of the path it came from: the disk fails, or handles or memory run
+/// out. A drive without a medium holds nothing, which is an answer.
+bool tells_nothing(DWORD error);
+
 /// Opens an existing file so that others may go on using it. Not open, with the system's error, on failure.
 WindowsHandle open_existing(const std::wstring& path, DWORD access, DWORD flags);
 

@@ -16,6 +16,8 @@ namespace vorlund {
 
 namespace {
 
+constexpr std::string_view kRename = "give its spelling to";
+
 /// Attributes that a replaced file hands on.
 constexpr DWORD kKeptAttributes = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_ARCHIVE;
 
@@ -52,7 +54,7 @@ WindowsTarget::WindowsTarget(std::string_view path, Spelling spelling)
   if (!existing_) {
     if (GetLastError() != ERROR_FILE_NOT_FOUND) fail();
   } else if ((existing_->dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
-    throw ActionError("write", path_, "it is a folder");
+    throw ActionError("write", path_, kIsFolder);
   } else if (spelling == Spelling::kAsItStands && spelled_otherwise()) {
     name_ = existing_->cFileName;
     long_path_ = folder_ + name_;
@@ -79,7 +81,7 @@ bool WindowsTarget::keep(Durability durability) {
   const bool read_only = (existing_->dwFileAttributes & FILE_ATTRIBUTE_READONLY) != 0;
   if (durability == Durability::kFlushed && !read_only) {
     const WindowsHandle kept = open_existing(long_path_, GENERIC_WRITE, 0);
-    if (!kept.is_open() || FlushFileBuffers(kept.get()) == 0) fail();
+    if (!kept.is_open() || FlushFileBuffers(kept.get()) == 0) fail("flush");
   }
   return as_asked;
 }
@@ -113,10 +115,10 @@ bool WindowsTarget::rename_written() const {
 
 void WindowsTarget::finish(Durability durability) {
   const bool flushed = durability == Durability::kFlushed;
-  if (flushed && FlushFileBuffers(written_.get()) == 0) fail();
+  if (flushed && FlushFileBuffers(written_.get()) == 0) fail("flush");
   if (!rename_written()) fail();
   WindowsHandle renamed = std::move(written_);
-  if (flushed && FlushFileBuffers(renamed.get()) == 0) fail();
+  if (flushed && FlushFileBuffers(renamed.get()) == 0) fail("flush");
   if (!renamed.close()) fail();
   settle_spelling();
 }
@@ -135,7 +137,7 @@ void WindowsTarget::settle_spelling() const {
   };
   if (spelled_as_asked()) return;
   const std::wstring spelled = folder_ + existing_->cFileName;
-  if (MoveFileExW(spelled.c_str(), long_path_.c_str(), 0) == 0) fail();
+  if (MoveFileExW(spelled.c_str(), long_path_.c_str(), 0) == 0) fail(kRename);
   if (spelled_as_asked()) return;
 
   // Where a rename that changes nothing but case is passed over, as by Wine, the file takes a step over a
@@ -144,16 +146,16 @@ void WindowsTarget::settle_spelling() const {
   for (unsigned attempt = 0; step.empty() || find_entry(step); ++attempt) {
     step = folder_ + to_wide(staging_name(attempt));
   }
-  if (MoveFileExW(spelled.c_str(), step.c_str(), 0) == 0) fail();
+  if (MoveFileExW(spelled.c_str(), step.c_str(), 0) == 0) fail(kRename);
   if (MoveFileExW(step.c_str(), long_path_.c_str(), 0) == 0) {
     const DWORD error = GetLastError();
     MoveFileExW(step.c_str(), spelled.c_str(), 0);
-    throw_windows_error("write", path_, error);
+    throw_windows_error(kRename, path_, error);
   }
 }
 
-void WindowsTarget::fail() const {
-  throw_windows_error("write", path_);
+void WindowsTarget::fail(std::string_view attempted) const {
+  throw_windows_error(attempted, path_);
 }
 
 }  // namespace vorlund

@@ -44,7 +44,7 @@ class WindowsTarget {
   bool spelled_otherwise() const;
   /// Spells the file that is in place as asked.
   void settle_spelling() const;
-  [[noreturn]] void fail() const;
+  [[noreturn]] void fail(std::string_view attempted = "write") const;
 
   std::string path_;
   std::wstring long_path_;

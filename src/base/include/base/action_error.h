@@ -10,6 +10,9 @@ namespace vorlund {
 /// The reason where memory does not suffice.
 inline constexpr std::string_view kOutOfMemory = "there is not enough memory for it";
 
+/// The reason where a folder stands in a file's place.
+inline constexpr std::string_view kIsFolder = "it is a folder";
+
 /// A failure that ends the running action and with it the program. Nobody catches it but the outermost
 /// layer, which shows `what()` to the user. All texts are UTF-8.
 class ActionError : public std::runtime_error {

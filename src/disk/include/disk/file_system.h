@@ -69,19 +69,30 @@ class FileSystem {
   /// The process's current folder, without a trailing separator except for a root ("C:\" or "/").
   virtual std::string current_folder() = 0;
 
-  /// True when a file of that name exists. Never fails: a malformed or unreachable path does not exist.
+  /// True when a file of that name exists. A malformed or unreachable path does not exist, nor does one that
+  /// there is no right to look at (see `take_unseen`). Only where the look itself fails, as on a bad disk or
+  /// for want of descriptors or memory, nothing is known of the path, and that is an error.
   virtual bool FileExists(std::string_view path) = 0;
 
-  /// True when a folder of that name exists. Never fails.
+  /// True when a folder of that name exists, in the same sense.
   virtual bool FolderExists(std::string_view path) = 0;
 
-  /// True when the folder, wherever links lead its path, is `root` or lies below it. Never fails: a folder
-  /// that does not exist lies nowhere.
+  /// As FileExists, but having no right to look is an error too. To be asked before something is made of a
+  /// file's content, or anew for want of it, and put in its place.
+  virtual bool is_there(std::string_view path) = 0;
+
+  /// True when the folder, wherever links lead its path, is `root` or lies below it. A folder that does not
+  /// exist lies nowhere.
   virtual bool lies_inside(std::string_view folder, std::string_view root) = 0;
 
+  /// The paths that were taken for missing because there was no right to look at them, since this was last
+  /// asked or an Action began; each once, in the order of their bytes. What a link in a listed folder leads
+  /// to counts as well.
+  virtual std::vector<std::string> take_unseen() = 0;
+
   /// Everything directly inside the folder, in no order, without "." and "..". A folder that does not exist
-  /// gives an empty list. Names that no path of this program can spell (with a backslash or slash) are left
-  /// out.
+  /// gives an empty list; one that there is no right to list is an error. Names that no path of this program
+  /// can spell (with a backslash or slash) are left out, and so are links that lead nowhere.
   virtual std::vector<FolderEntry> entries(std::string_view folder) = 0;
 
   /// Opens the file to be read. The reader's functions fail as those of the file system do.
@@ -97,7 +108,8 @@ class FileSystem {
 
   /// Makes the target hold the source's bytes. Only bytes are copied: not times, not attributes. The target
   /// is spelled as its path spells it; another spelling of the name is gone afterwards. A target that already
-  /// holds them is not written, but is renamed where its spelling differs, and flushed where that is asked.
+  /// holds the bytes is not written, but is renamed where its spelling differs, and flushed where that is
+  /// asked.
   virtual CopyOutcome copy_file(std::string_view source, std::string_view target, Durability durability) = 0;
 
   /// Deletes the file.

@@ -35,11 +35,6 @@ class PatchedBytes {
   std::string original_;
 };
 
-/// Tells a file that is there from one that is certainly missing: where FileExists says no, the folder is
-/// listed, and failing to list it is an error. To be asked before something is made from a file's content and
-/// written back, since FileExists also says no to a file that can't be seen for the moment.
-[[nodiscard]] bool is_there(FileSystem& files, std::string_view path);
-
 /// A file that is patched by several steps and written once.
 class PatchedFile {
  public:

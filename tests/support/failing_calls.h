@@ -1,0 +1,26 @@
+// Lets calls of the system fail inside the test program itself.
+#pragma once
+
+#include <limits>
+#include <string>
+
+namespace vorlund::test {
+
+/// While it lives, every call of one function of the system fails that goes by a name: for "openat",
+/// "fstatat", "unlinkat" and "renameat" the name they are given, for "getdents64" and "fsync" the path of
+/// what is open. The call is not made. One at a time; only programs that link failing_calls.cpp know it.
+class FailingCall {
+ public:
+  /// `ending` is how the name ends, `error` the error number; `times` tells how many
+  /// calls fail before they go through again.
+  FailingCall(std::string function, std::string ending, int error,
+              int times = std::numeric_limits<int>::max());
+  ~FailingCall();
+  FailingCall(const FailingCall&) = delete;
+  FailingCall& operator=(const FailingCall&) = delete;
+
+  /// How many calls have failed.
+  static int count();
+};
+
+}  // namespace vorlund::test
