@@ -248,6 +248,17 @@ TEST_P(PosixFaults, AnErrorSaysWhatFailedAlsoOnceTheFileIsInItsPlace) {
   EXPECT_EQ(folder_.read("Game/other.dat"), "other");
 }
 
+TEST_P(PosixFaults, FilesOfOneNumberAreToldApartByTheirBytes) {
+  folder_.write("save", "my own save");
+  folder_.write("Game/save", "the old one");
+  const test::CollidingNumbers colliding;
+  EXPECT_EQ(copy("save", "Game\\save"), CopyOutcome::kWritten);
+  EXPECT_EQ(folder_.read("Game/save"), "my own save");
+  EXPECT_EQ(copy("save", "Game\\save"), CopyOutcome::kUnchanged);
+  EXPECT_EQ(copy("save", "save"), CopyOutcome::kUnchanged);
+  EXPECT_EQ(folder_.read("save"), "my own save");
+}
+
 TEST_P(PosixFaults, WithNoDescriptorLeftNothingIsTakenForMissing) {
   folder_.make_folder("Game/Empty");
   rlimit before{};

@@ -26,6 +26,7 @@ struct Rule {
 
 std::optional<Rule> rule;
 int failed = 0;
+bool numbers_collide = false;
 
 /// True, with errno, where the call is to fail.
 bool fails(std::string_view function, std::string_view name) {
@@ -43,6 +44,15 @@ std::string path_of(int descriptor) {
   return {path.data(), length < 0 ? 0 : static_cast<std::size_t>(length)};
 }
 
+int look(int folder, const char* name, struct stat* status, int flags) {
+  const int result = static_cast<int>(::syscall(SYS_newfstatat, folder, name, status, flags));
+  if (result == 0 && numbers_collide && S_ISREG(status->st_mode)) {
+    status->st_dev = 1;
+    status->st_ino = 1;
+  }
+  return result;
+}
+
 }  // namespace
 
 FailingCall::FailingCall(std::string function, std::string ending, int error, int times) {
@@ -58,9 +68,18 @@ int FailingCall::count() {
   return failed;
 }
 
+CollidingNumbers::CollidingNumbers() {
+  numbers_collide = true;
+}
+
+CollidingNumbers::~CollidingNumbers() {
+  numbers_collide = false;
+}
+
 }  // namespace vorlund::test
 
 using vorlund::test::fails;
+using vorlund::test::look;
 using vorlund::test::path_of;
 
 extern "C" {
@@ -77,8 +96,11 @@ int openat(int folder, const char* name, int flags, ...) {
 }
 
 int fstatat(int folder, const char* name, struct stat* status, int flags) noexcept {
-  return fails("fstatat", name) ? -1
-                                : static_cast<int>(::syscall(SYS_newfstatat, folder, name, status, flags));
+  return fails("fstatat", name) ? -1 : look(folder, name, status, flags);
+}
+
+int fstat(int descriptor, struct stat* status) noexcept {
+  return look(descriptor, "", status, AT_EMPTY_PATH);
 }
 
 int unlinkat(int folder, const char* name, int flags) noexcept {

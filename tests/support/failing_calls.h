@@ -1,4 +1,4 @@
-// Lets calls of the system fail inside the test program itself.
+// Lets calls of the system fail, or answer as an odd disk does, inside the test program itself.
 #pragma once
 
 #include <limits>
@@ -21,6 +21,15 @@ class FailingCall {
 
   /// How many calls have failed.
   static int count();
+};
+
+/// While it lives, every regular file has the same device and number, as on a disk whose numbers collide.
+class CollidingNumbers {
+ public:
+  CollidingNumbers();
+  ~CollidingNumbers();
+  CollidingNumbers(const CollidingNumbers&) = delete;
+  CollidingNumbers& operator=(const CollidingNumbers&) = delete;
 };
 
 }  // namespace vorlund::test

@@ -277,12 +277,9 @@ CopyOutcome PosixFileSystem::copy_file(std::string_view source_path, std::string
   }
   target.look();
 
-  if (target.readable() >= 0 && target.status().st_size == source.status.st_size) {
-    const bool one_file =
-        target.status().st_dev == source.status.st_dev && target.status().st_ino == source.status.st_ino;
-    if (one_file || content_.same_as(source, target.readable())) {
-      return target.keep(durability) ? CopyOutcome::kUnchanged : CopyOutcome::kWritten;
-    }
+  if (target.readable() >= 0 && target.status().st_size == source.status.st_size &&
+      content_.same_as(source, target.readable())) {
+    return target.keep(durability) ? CopyOutcome::kUnchanged : CopyOutcome::kWritten;
   }
   content_.write_to(source, target.begin(staging_), target_path);
   if (!target.finish(durability)) {

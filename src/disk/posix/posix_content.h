@@ -52,7 +52,8 @@ class PosixContent {
   /// only where the last files were the same and small: false says nothing.
   bool known_same(const PosixSource& source, int target);
 
-  /// True when the target, which is as long as the source taken last, holds the same bytes.
+  /// True when the target, which is as long as the source taken last, holds the same bytes. Those alone
+  /// count: there are disks that give two files one number.
   bool same_as(const PosixSource& source, int target);
 
   /// Writes the source taken last into an empty file. `target_path` is for error reports.

@@ -19,14 +19,6 @@ bool is_folder(std::string_view path) {
   return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
 }
 
-bool one_file(HANDLE a, HANDLE b) {
-  BY_HANDLE_FILE_INFORMATION of_a;
-  BY_HANDLE_FILE_INFORMATION of_b;
-  if (GetFileInformationByHandle(a, &of_a) == 0 || GetFileInformationByHandle(b, &of_b) == 0) return false;
-  return of_a.dwVolumeSerialNumber == of_b.dwVolumeSerialNumber &&
-         of_a.nFileIndexHigh == of_b.nFileIndexHigh && of_a.nFileIndexLow == of_b.nFileIndexLow;
-}
-
 }  // namespace
 
 WindowsSource::WindowsSource(std::string_view path)
@@ -39,7 +31,6 @@ WindowsSource::WindowsSource(std::string_view path)
 }
 
 bool WindowsContent::same(const WindowsSource& source, HANDLE target) {
-  if (one_file(source.handle(), target)) return true;
   target_buffer_.resize(kBlock);
   for (;;) {
     const std::string_view expected = next_block(source);

@@ -35,7 +35,8 @@ class WindowsContent {
   /// Called at least every 1 MiB while files are compared or copied.
   void set_pulse(std::function<void()> pulse) { pulse_ = std::move(pulse); }
 
-  /// True when the target, which is as long as the source, is the same file or holds the same bytes.
+  /// True when the target, which is as long as the source, holds the same bytes. Those alone
+  /// count: there are disks that give two files one number.
   bool same(const WindowsSource& source, HANDLE target);
 
   /// Writes the source into an empty file. `target_path` is for error reports.
