@@ -61,6 +61,47 @@ TEST_F(TwoDisks, AStagingFolderOnTheOtherServesNot) {
   EXPECT_EQ(files_->read_file(other_disk_ + "\\" + left_over), "would be swept");
 }
 
+/// On whatever disk the folder of temporary files is.
+class Holes : public testing::Test {
+ protected:
+  std::string system_path(const char* name) const { return folder_.path() + "/" + name; }
+
+  /// Bytes that the file takes on the disk.
+  std::int64_t room_of(const char* name) const {
+    struct stat status {};
+    EXPECT_EQ(::stat(system_path(name).c_str(), &status), 0) << name;
+    return std::int64_t{status.st_blocks} * 512;
+  }
+
+  /// Makes a file of a size that holds bytes at some offsets, and nothing between.
+  void make_source(off_t size, const std::vector<off_t>& offsets) const {
+    const int file = ::open(system_path("source").c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0666);
+    ASSERT_GE(file, 0);
+    const std::string bytes(4096, 'x');
+    for (const off_t offset : offsets) ASSERT_EQ(::pwrite(file, bytes.data(), bytes.size(), offset), 4096);
+    ASSERT_EQ(::ftruncate(file, size), 0);
+    ASSERT_EQ(::close(file), 0);
+  }
+
+  test::TemporaryFolder folder_;
+  std::unique_ptr<FileSystem> files_ = make_platform_file_system();
+};
+
+TEST_F(Holes, StayHolesInACopy) {
+  constexpr off_t kSize = 64 << 20;
+  for (const std::vector<off_t>& offsets :
+       {std::vector<off_t>{kSize - 4096}, {0}, {}, {0, 20 << 20, (20 << 20) + 65536, kSize - 4096}, {5000}}) {
+    make_source(kSize, offsets);
+    if (room_of("source") > kSize / 2) GTEST_SKIP() << "the disk here knows no holes";
+    EXPECT_EQ(files_->copy_file(system_path("source"), system_path("copy"), Durability::kFlushed),
+              CopyOutcome::kWritten);
+    EXPECT_LE(room_of("copy"), 1 << 20);
+    EXPECT_TRUE(folder_.read("copy") == folder_.read("source"));
+    EXPECT_EQ(files_->copy_file(system_path("source"), system_path("copy"), Durability::kFlushed),
+              CopyOutcome::kUnchanged);
+  }
+}
+
 /// A btrfs in an image file, mounted meanwhile.
 class SharedBlocks : public testing::Test {
  protected:

@@ -89,7 +89,32 @@ void PosixContent::write_to(const PosixSource& source, int target, std::string_v
     return;
   }
   if (clone(source, target)) return;
-  copy_blocks(source, copy_in_kernel(source, target), target, target_path);
+  std::uint64_t done = 0;
+  while (done < source.size()) {
+    const Run run = next_run(source, done);
+    const auto begin = static_cast<off_t>(run.begin);
+    if (run.begin > done && (::ftruncate(target, begin) != 0 || ::lseek(target, begin, SEEK_SET) != begin))
+      throw_system_error("write", target_path);
+    copy_blocks(source, {copy_in_kernel(source, run, target), run.end}, target, target_path);
+    done = run.end;
+  }
+}
+
+/// The next bytes from an offset on that are no hole; empty, at the end of the file, where only a hole is
+/// left. Where the disk can't tell holes, all the rest.
+PosixContent::Run PosixContent::next_run(const PosixSource& source, std::uint64_t offset) {
+  const Run rest{offset, source.size()};
+#if defined(SEEK_DATA) && defined(SEEK_HOLE)
+  constexpr std::uint64_t kUnitOfBlocks = 512;
+  if (static_cast<std::uint64_t>(source.status.st_blocks) * kUnitOfBlocks >= source.size()) return rest;
+  const off_t begin = ::lseek(source.handle.descriptor(), static_cast<off_t>(offset), SEEK_DATA);
+  if (begin < 0 && errno == ENXIO) return {source.size(), source.size()};
+  const off_t end = begin < 0 ? -1 : ::lseek(source.handle.descriptor(), begin, SEEK_HOLE);
+  if (end > begin) {
+    return {static_cast<std::uint64_t>(begin), std::min(static_cast<std::uint64_t>(end), source.size())};
+  }
+#endif
+  return rest;
 }
 
 std::string_view PosixContent::source_block(const PosixSource& source, std::uint64_t offset,
@@ -114,31 +139,32 @@ bool PosixContent::clone(const PosixSource& source, int target) {
   return false;
 }
 
-/// Returns how many bytes the kernel has copied; where it can't go on, reading and writing takes over and
-/// meets the error, if there is one.
-std::uint64_t PosixContent::copy_in_kernel(const PosixSource& source, int target) {
-  std::uint64_t copied = 0;
+/// Returns the offset up to which the kernel has copied; where it can't go on, reading and writing takes over
+/// and meets the error, if there is one.
+std::uint64_t PosixContent::copy_in_kernel(const PosixSource& source, const Run& run, int target) {
 #ifdef __linux__
-  while (copied < source.size()) {
-    const std::uint64_t step = std::min(kPulseBytes, source.size() - copied);
-    const ssize_t got = ::copy_file_range(source.handle.descriptor(), nullptr, target, nullptr,
-                                          static_cast<std::size_t>(step), 0);
+  auto offset = static_cast<off_t>(run.begin);
+  const auto end = static_cast<off_t>(run.end);
+  while (offset < end) {
+    const auto step = std::min(static_cast<std::size_t>(kPulseBytes), static_cast<std::size_t>(end - offset));
+    const ssize_t got = ::copy_file_range(source.handle.descriptor(), &offset, target, nullptr, step, 0);
     if (got < 0 && errno == EINTR) continue;
     if (got <= 0) break;
-    copied += static_cast<std::uint64_t>(got);
     worked_through(static_cast<std::uint64_t>(got));
   }
+  return static_cast<std::uint64_t>(offset);
 #else
   static_cast<void>(source);
   static_cast<void>(target);
+  return run.begin;
 #endif
-  return copied;
 }
 
-void PosixContent::copy_blocks(const PosixSource& source, std::uint64_t offset, int target,
+void PosixContent::copy_blocks(const PosixSource& source, const Run& run, int target,
                                std::string_view target_path) {
-  for (;;) {
-    const std::string_view bytes = source_block(source, offset, kBlock);
+  for (std::uint64_t offset = run.begin; offset < run.end;) {
+    const auto step = static_cast<std::size_t>(std::min<std::uint64_t>(kBlock, run.end - offset));
+    const std::string_view bytes = source_block(source, offset, step);
     if (bytes.empty()) return;
     if (!write_all(target, bytes)) throw_system_error("write", target_path);
     offset += bytes.size();

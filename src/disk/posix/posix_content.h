@@ -56,14 +56,22 @@ class PosixContent {
   /// count: there are disks that give two files one number.
   bool same_as(const PosixSource& source, int target);
 
-  /// Writes the source taken last into an empty file. `target_path` is for error reports.
+  /// Writes the source taken last into an empty file. Holes of a source that is not read at once stay holes.
+  /// `target_path` is for error reports.
   void write_to(const PosixSource& source, int target, std::string_view target_path);
 
  private:
   std::string_view source_block(const PosixSource& source, std::uint64_t offset, std::size_t size);
+  /// Bytes of a file that stand between holes.
+  struct Run {
+    std::uint64_t begin;
+    std::uint64_t end;
+  };
+
+  static Run next_run(const PosixSource& source, std::uint64_t offset);
   bool clone(const PosixSource& source, int target);
-  std::uint64_t copy_in_kernel(const PosixSource& source, int target);
-  void copy_blocks(const PosixSource& source, std::uint64_t offset, int target, std::string_view target_path);
+  std::uint64_t copy_in_kernel(const PosixSource& source, const Run& run, int target);
+  void copy_blocks(const PosixSource& source, const Run& run, int target, std::string_view target_path);
   void worked_through(std::uint64_t bytes);
 
   std::function<void()> pulse_;

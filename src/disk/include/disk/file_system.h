@@ -106,10 +106,10 @@ class FileSystem {
   /// spelling of its name.
   virtual void replace_file(std::string_view path, std::string_view bytes, Durability durability) = 0;
 
-  /// Makes the target hold the source's bytes. Only bytes are copied: not times, not attributes. The target
-  /// is spelled as its path spells it; another spelling of the name is gone afterwards. A target that already
-  /// holds the bytes is not written, but is renamed where its spelling differs, and flushed where that is
-  /// asked.
+  /// Makes the target hold the source's bytes. Only bytes are compared and copied: not times, not attributes;
+  /// where the disk knows holes, on POSIX, those of a large file stay. The target is spelled as its path
+  /// spells it; another spelling of the name is gone afterwards. A target that already holds the bytes is not
+  /// written, but is renamed where its spelling differs, and flushed where that is asked.
   virtual CopyOutcome copy_file(std::string_view source, std::string_view target, Durability durability) = 0;
 
   /// Deletes the file.
