@@ -6,6 +6,7 @@
 #include <cstdio>
 
 #include "disk/file_system.h"
+#include "disk/standard_streams.h"
 #include "window/main_window.h"
 #include "window/theme.h"
 
@@ -28,6 +29,7 @@ void report_error(const QString& text) {
 }  // namespace
 
 int run_application(int argc, char** argv, const std::function<void(MainWindow&)>& driver) {
+  keep_standard_streams();
   QApplication application(argc, argv);
   QApplication::setApplicationName("Vorlund");
   QApplication::setDesktopFileName("org.vorlund.Vorlund");

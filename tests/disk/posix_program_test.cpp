@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <csignal>
 #include <cstdlib>
 #include <filesystem>
 
@@ -63,6 +64,18 @@ TEST_F(StartProgramTest, WineIsLookedForInTheFoldersOfThePathThatAreAbsolute) {
   ::setenv("PATH", ("::bin:/:" + system_path("bin") + ":/usr/bin:/bin").c_str(), 1);
   files_->start_program(folder_.path("Game\\eaw.exe"), folder_.path("Game"));
   EXPECT_EQ(awaited("Game/done"), "started\n");
+}
+
+TEST_F(StartProgramTest, AProgramIsEndedByABrokenPipeAsEver) {
+  const auto before = ::signal(SIGPIPE, SIG_IGN);
+  make_script("Game/fly",
+              "while read name mask; do [ $name = SigIgn: ] && echo $mask > started; done < /proc/$$/status; "
+              "mv started done");
+  files_->start_program(folder_.path("Game\\fly"), folder_.path("Game"));
+  ::signal(SIGPIPE, before);
+  const std::string ignored = awaited("Game/done");
+  ASSERT_NE(ignored, "");
+  EXPECT_EQ(std::stoull(ignored, nullptr, 16) & (1U << (SIGPIPE - 1)), 0U) << ignored;
 }
 
 TEST_F(StartProgramTest, AProgramIsStartedFromTheCurrentFolder) {

@@ -3,6 +3,11 @@
 
 #include <QProcess>
 #include <QString>
+#include <functional>
+
+#ifndef Q_OS_WIN
+#include <unistd.h>
+#endif
 
 #include "support/temporary_folder.h"
 
@@ -15,8 +20,15 @@ struct Ending {
   std::string errors;
 };
 
-Ending run_in(const TemporaryFolder& folder, const QStringList& arguments) {
+/// `prepare` runs in the program's process before it begins.
+Ending run_in(const TemporaryFolder& folder, const QStringList& arguments,
+              const std::function<void()>& prepare = {}) {
   QProcess program;
+#ifndef Q_OS_WIN
+  if (prepare) program.setChildProcessModifier(prepare);
+#else
+  EXPECT_FALSE(prepare);
+#endif
   program.setWorkingDirectory(QString::fromStdString(folder.path()));
   program.start(ERROR_REPORT_PROGRAM, arguments);
   EXPECT_TRUE(program.waitForFinished(60'000));
@@ -49,8 +61,47 @@ TEST(ErrorReport, OfStartUpIsSeenToo) {
   folder.make_folder("~Vorlund/SkinStore/SkinList.txt");
   const Ending ending = run_in(folder, {});
   EXPECT_EQ(ending.exit_code, 1) << ending.errors;
-  EXPECT_NE(ending.output.find("SkinList.txt"), std::string::npos) << ending.output;
+  EXPECT_NE(ending.output.find("SkinList.txt\": it is a folder"), std::string::npos) << ending.output;
 }
+
+#ifndef Q_OS_WIN
+
+TEST(ErrorReport, IsSeenAlsoWhereNobodyReadsStandardError) {
+  const TemporaryFolder folder;
+  make_game(folder);
+  folder.make_folder("b.dat");
+  const Ending ending = run_in(folder, {"process"}, [] {
+    int ends[2];
+    if (::pipe(ends) != 0 || ::dup2(ends[1], STDERR_FILENO) < 0) ::_exit(2);
+    ::close(ends[0]);
+    ::close(ends[1]);
+  });
+  EXPECT_EQ(ending.exit_code, 1);
+  EXPECT_NE(ending.output.find("window: Could not write"), std::string::npos) << ending.output;
+}
+
+TEST(ErrorReport, IsSeenAlsoWhereStandardErrorIsClosed) {
+  const TemporaryFolder folder;
+  make_game(folder);
+  folder.make_folder("b.dat");
+  const Ending ending = run_in(folder, {"process"}, [] { ::close(STDERR_FILENO); });
+  EXPECT_EQ(ending.exit_code, 1);
+  EXPECT_NE(ending.output.find("window: Could not write"), std::string::npos) << ending.output;
+}
+
+TEST(ErrorReport, NeverGoesIntoAFileWhereStandardErrorIsClosed) {
+  const TemporaryFolder folder;
+  make_game(folder);
+  const Ending ending = run_in(folder, {"streams"}, [] {
+    ::close(STDIN_FILENO);
+    ::close(STDERR_FILENO);
+  });
+  EXPECT_EQ(ending.exit_code, 0);
+  EXPECT_NE(ending.output.find("0: /dev/null\n"), std::string::npos) << ending.output;
+  EXPECT_NE(ending.output.find("2: /dev/null\n"), std::string::npos) << ending.output;
+}
+
+#endif
 
 TEST(ErrorReport, IsNotSeenWhenAllGoesWell) {
   const TemporaryFolder folder;

@@ -39,6 +39,7 @@ std::string find_command(std::string_view name) {
   ::setsid();
   const pid_t grandchild = ::fork();
   if (grandchild == 0) {
+    ::signal(SIGPIPE, SIG_DFL);  // it would be handed on ignored
     if (::fchdir(folder) == 0) ::execv(executable, arguments);
   }
   if (grandchild <= 0) {
