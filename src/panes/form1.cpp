@@ -1,10 +1,13 @@
 // Start-up, the main menu, the command labels, and what crosses from one pane to another.
 #include "panes/form1.h"
 
+#include <algorithm>
+#include <chrono>
 #include <utility>
 
 #include "aircraft/plane_record.h"
 #include "aircraft/skin_list.h"
+#include "base/plain_name.h"
 #include "disk/copier.h"
 #include "disk/store.h"
 #include "gamesets/clean_up.h"
@@ -21,6 +24,12 @@ constexpr int kMenuTop = 1500;
 constexpr int kLabelStep = 500;
 constexpr int kLabelHeight = 420;
 constexpr int kTwoLineHeight = 690;
+
+/// So long a start waits for the action of another program.
+constexpr std::chrono::seconds kStartWaits{2};
+
+/// At most so many of the paths that could not be looked at are named.
+constexpr std::size_t kNamedPaths = 3;
 
 void place_label(Label& label, int top) {
   label.place = {kMenuLeft, top, kMenuWidth, kLabelHeight};
@@ -44,6 +53,7 @@ void Form1::Form_Load() {
   const FileSystem::Action action(files);
   desk.directory.start();
   const GameFolder folder = desk.game();
+  const FolderLocks locks = files.lock_folders(written_folders(), kStartWaits);
   selection.Frame3.place.left = 0;
   selection.Frame3.place.top = 0;
   plane.List2.items.clear();
@@ -69,10 +79,15 @@ void Form1::Form_Load() {
     WhatsLoaded.visible = true;
   }
   load_pane.list();
-  MakeSkinList(folder);
+  if (locks.in_use().empty()) MakeSkinList(folder);
   Label26.caption = "Version " + std::to_string(version_.major) + "." + std::to_string(version_.minor) + "." +
                     std::to_string(version_.revision);
   desk.say("Confirm the game folder, then choose from the menu on the left");
+  if (!locks.in_use().empty()) {
+    desk.say_too("The list of skins was left as it is: another program is at work in \"" + locks.in_use() +
+                 "\"");
+  }
+  say_unseen();
 }
 
 void Form1::confirm_directory() {
@@ -166,7 +181,7 @@ void Form1::start_game() {
   minimise();
 }
 
-void Form1::delete_missions() {
+void Form1::delete_mission_files() {
   desk.status.repaint();
   const GameFolder folder = desk.game();
   const std::uint64_t deleted = delete_default_missions(folder);
@@ -235,6 +250,41 @@ void Form1::choose_possible_skin() {
   browser.apply_matched_skin();
 }
 
+std::vector<std::string> Form1::written_folders() const {
+  std::vector<std::string> folders;
+  for (const std::string_view name :
+       {std::string_view(), kSavedata, kMusic, kStore, kSkinStore, kGameSetFiles, kPlaneSetFiles}) {
+    folders.push_back(desk.game().path(name));
+  }
+  const std::string home = careers_home_name(game.G2);
+  if (stays_below(home)) folders.push_back(desk.game().path(kGameStore) + "\\" + home);
+  return folders;
+}
+
+void Form1::act(const std::function<void()>& action) {
+  const FolderLocks locks = desk.files.lock_folders(written_folders(), std::chrono::milliseconds(0));
+  if (!locks.in_use().empty()) {
+    desk.say("Nothing was done: another program is at work in \"" + locks.in_use() + "\"");
+    return;
+  }
+  change_tables(action);
+  if (!locks.without_locks().empty() && !std::exchange(told_of_locks_, true)) {
+    desk.say_too("The disk of \"" + locks.without_locks() +
+                 "\" knows no locks: nothing keeps other programs from working there at the same time");
+  }
+  say_unseen();
+}
+
+void Form1::say_unseen() {
+  const std::vector<std::string> unseen = desk.files.take_unseen();
+  if (unseen.empty()) return;
+  std::string text = "Taken for missing, for want of the right to look: ";
+  for (std::size_t index = 0; index < std::min(unseen.size(), kNamedPaths); ++index) {
+    text.append(index > 0 ? "; " : "").append(unseen[index]);
+  }
+  desk.say_too(unseen.size() > kNamedPaths ? text + "; ..." : text);
+}
+
 void Form1::change_tables(const std::function<void()>& change) {
   const std::string home_before = careers_home_name(game.G2);
   change();
@@ -249,7 +299,7 @@ void Form1::change_tables(const std::function<void()>& change) {
       (home.empty() ? "stay there: no row names their home" : "go home to " + home + " at \"Clean Up\""));
 }
 
-void Form1::CleanUp() {
+void Form1::clean_up() {
   desk.status.repaint();
   const GameFolder folder = desk.game();
   const CleanUpSummary summary = clean_game_directory(folder, desk.status, game.G2);

@@ -93,7 +93,7 @@ class Form1 {
   // The game pane.
   void G2_Click(int row) { game.G2.select(row); }
   void GameLoad_Click() {
-    change_tables([this] { game.install(); });
+    act([this] { game.install(); });
   }
   void Label28_Click() {
     change_tables([this] { game.clear_selected_row(selection.last_group()); });
@@ -110,7 +110,7 @@ class Form1 {
   void G1_MouseDown(int row, int column, const MouseEvent& event = {});
   void G1_Move(int row, int column) { plane.G1.select(row, column); }
   void Label8_Click() {
-    change_tables([this] { install_aircraft(); });
+    act([this] { install_aircraft(); });
   }
   void Label3_Click() {
     change_tables([this] { plane.clear_selected_row(); });
@@ -153,7 +153,9 @@ class Form1 {
   // Saving a set-up.
   void Text2_Change(std::string_view text) { save_pane.type(text); }
   void File5_Click(int index) { save_pane.take_name(index); }
-  void Label4_Click() { save_pane.save(); }
+  void Label4_Click() {
+    act([this] { save_pane.save(); });
+  }
   void Label39_Click() { save_pane.hide(); }
   void SaveFrame_Click() { save_pane.hide(); }
 
@@ -162,7 +164,7 @@ class Form1 {
   void File3_Click(int index) { load_pane.choose_game_set(index); }
   void Check1_Click() { load_pane.Check1.checked = !load_pane.Check1.checked; }
   void Label19_Click() {
-    change_tables([this] { load_set_ups(); });
+    act([this] { load_set_ups(); });
   }
   void Label40_Click() { load_pane.hide(); }
   void Frame2_Click() { load_pane.hide(); }
@@ -173,7 +175,9 @@ class Form1 {
   void PMenFrame_Click() { menu_editor.hide(); }
 
   /// Brings career saves home, deletes installed loose files and empties both tables and records.
-  void CleanUp();
+  void CleanUp() {
+    act([this] { clean_up(); });
+  }
 
  private:
   void confirm_directory();
@@ -190,7 +194,11 @@ class Form1 {
   void open_flight_model_choice();
   void open_set_ups();
   void start_game();
-  void delete_missions();
+  void delete_missions() {
+    act([this] { delete_mission_files(); });
+  }
+  void delete_mission_files();
+  void clean_up();
   void minimise() { minimise_wanted = true; }
   void end() { ended = true; }
   void hide_title();
@@ -202,12 +210,23 @@ class Form1 {
   /// Says in the status line what to do next, or that the folder of the store holds nothing to do it with.
   void say_next(const FolderList& groups, std::string_view store, std::string_view next);
 
+  /// Every folder that an action may write or delete in.
+  [[nodiscard]] std::vector<std::string> written_folders() const;
+
+  /// Runs an action on the game's files as change_tables does, while no other program can run one in the same
+  /// folders. Where one does so already, nothing is done, and the status line says in which folder.
+  void act(const std::function<void()>& action);
+
+  /// Says in the status line which paths count as missing for want of the right to look.
+  void say_unseen();
+
   /// Runs what may change the tables. Then the selections in use are marked anew, and where career saves
   /// would now go home to another folder the status line says so.
   void change_tables(const std::function<void()>& change);
 
   Version version_;
   DragOrigin drag_;
+  bool told_of_locks_ = false;  ///< that a disk knows none
 };
 
 }  // namespace vorlund
