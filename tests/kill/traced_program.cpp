@@ -17,8 +17,8 @@ namespace vorlund::test {
 
 namespace {
 
-/// Starts a command inside a folder and waits for its end. Nothing is asked of the keyboard.
-Ending run_command(const std::vector<std::string>& command, const std::string& folder) {
+/// Starts a command inside a folder; returns its process number. Nothing is asked of the keyboard.
+pid_t start_command(const std::vector<std::string>& command, const std::string& folder) {
   std::vector<char*> arguments;
   for (const std::string& argument : command) arguments.push_back(const_cast<char*>(argument.c_str()));
   arguments.push_back(nullptr);
@@ -30,14 +30,50 @@ Ending run_command(const std::vector<std::string>& command, const std::string& f
     ::execvp(arguments.front(), arguments.data());
     ::_exit(127);
   }
+  return child;
+}
+
+/// Waits for the end of a process.
+Ending wait_for(pid_t child) {
   int status = 0;
   while (::waitpid(child, &status, 0) < 0) {
-    if (errno != EINTR) throw std::runtime_error("cannot wait for " + command.front());
+    if (errno != EINTR) throw std::runtime_error("cannot wait for process " + std::to_string(child));
   }
   Ending ending;
   ending.killed = WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL;
   if (WIFEXITED(status)) ending.exit_code = WEXITSTATUS(status);
   return ending;
+}
+
+/// Starts a command inside a folder and waits for its end.
+Ending run_command(const std::vector<std::string>& command, const std::string& folder) {
+  return wait_for(start_command(command, folder));
+}
+
+/// The one process that another has started, 0 while there is none.
+pid_t child_of(pid_t parent) {
+  const std::string number = std::to_string(parent);
+  std::ifstream children("/proc/" + number + "/task/" + number + "/children");
+  pid_t child = 0;
+  children >> child;
+  return child;
+}
+
+/// True where a process has been stopped by a signal and so stays; a call that is watched stops it too, but
+/// only for a moment.
+bool stays_stopped(pid_t process) {
+  constexpr int kLooks = 20;
+  for (int look = 0; look < kLooks; ++look) {
+    std::ifstream file("/proc/" + std::to_string(process) + "/stat");
+    std::string line;
+    std::getline(file, line);
+    const std::size_t name_end = line.rfind(')');
+    if (name_end == std::string::npos || name_end + 2 >= line.size()) return false;
+    const char state = line[name_end + 2];
+    if (state != 't' && state != 'T') return false;
+    ::usleep(1000);
+  }
+  return true;
 }
 
 /// The name of the call that a line of the trace, without its process number, tells of; "" for other lines.
@@ -111,12 +147,39 @@ Ending TracedProgram::run_failed(const std::string& folder, const std::string& c
                                    "inject=" + call + ":" + result + ":when=" + std::to_string(number)});
 }
 
-Ending TracedProgram::run_under_strace(const std::string& folder,
-                                       const std::vector<std::string>& options) const {
+Ending TracedProgram::run_stopped(const std::string& folder, const std::string& call, int number,
+                                  bool& stopped, const std::function<void()>& meanwhile) const {
+  const pid_t strace =
+      start_command(under_strace({"-e", "trace=" + call, "-e",
+                                  "inject=" + call + ":signal=STOP:when=" + std::to_string(number)}),
+                    folder);
+  stopped = false;
+  siginfo_t ended{};
+  while (::waitid(P_PID, static_cast<id_t>(strace), &ended, WEXITED | WNOHANG | WNOWAIT) == 0 &&
+         ended.si_pid == 0) {
+    const pid_t program = child_of(strace);
+    if (program == 0 || !stays_stopped(program)) {
+      ::usleep(1000);
+      continue;
+    }
+    stopped = true;
+    meanwhile();
+    ::kill(program, SIGCONT);
+    break;
+  }
+  return wait_for(strace);
+}
+
+std::vector<std::string> TracedProgram::under_strace(const std::vector<std::string>& options) const {
   std::vector<std::string> command = {"strace", "-f", "-qq", "-o", trace_file_};
   command.insert(command.end(), options.begin(), options.end());
   command.insert(command.end(), command_.begin(), command_.end());
-  return run_command(command, folder);
+  return command;
+}
+
+Ending TracedProgram::run_under_strace(const std::string& folder,
+                                       const std::vector<std::string>& options) const {
+  return run_command(under_strace(options), folder);
 }
 
 }  // namespace vorlund::test

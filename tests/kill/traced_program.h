@@ -1,6 +1,7 @@
 // Runs a program while its system calls are watched, or while it is killed at one of them.
 #pragma once
 
+#include <functional>
 #include <map>
 #include <string>
 #include <vector>
@@ -50,8 +51,14 @@ class TracedProgram {
   Ending run_failed(const std::string& folder, const std::string& call, int number,
                     const std::string& result) const;
 
+  /// Stops the program as it enters its call number `number` (from 1) of that name, does `meanwhile`, and
+  /// lets it go on to its end. `stopped` tells whether it came to that call.
+  Ending run_stopped(const std::string& folder, const std::string& call, int number, bool& stopped,
+                     const std::function<void()>& meanwhile) const;
+
  private:
   Ending run_under_strace(const std::string& folder, const std::vector<std::string>& options) const;
+  std::vector<std::string> under_strace(const std::vector<std::string>& options) const;
 
   std::vector<std::string> command_;
   std::string trace_file_;
