@@ -15,20 +15,47 @@ namespace {
 
 constexpr int kLargestImageMegabytes = 400;
 
+/// So many pixels are decoded at most. A decoder that can scale leaves out up to 63 of 64.
+constexpr double kMostPixels = 64e6;
+constexpr double kScalersMostPixels = 64 * kMostPixels;
+
+/// Reads a picture's bytes where they lie.
+class Decoder {
+ public:
+  explicit Decoder(const std::string& bytes)
+      : bytes_(QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size()))),
+        buffer_(&bytes_) {
+    reader_.setDevice(&buffer_);
+    reader_.setDecideFormatFromContent(true);
+    reader_.setAutoTransform(true);
+    QImageReader::setAllocationLimit(kLargestImageMegabytes);
+  }
+
+  QImageReader& reader() { return reader_; }
+  bool scales() const { return reader_.supportsOption(QImageIOHandler::ScaledSize); }
+
+  bool is_too_large() const {
+    const QSizeF size = reader_.size();
+    return size.isValid() && size.width() * size.height() > (scales() ? kScalersMostPixels : kMostPixels);
+  }
+
+ private:
+  QByteArray bytes_;
+  QBuffer buffer_;
+  QImageReader reader_;
+};
+
 QImage decode(const PictureFile& file, const QSize& size, PictureFit fit) {
   if (!file.bytes || size.isEmpty()) return {};
-  QByteArray bytes = QByteArray::fromRawData(file.bytes->data(), static_cast<qsizetype>(file.bytes->size()));
-  QBuffer buffer(&bytes);
-  QImageReader reader(&buffer);
-  reader.setDecideFormatFromContent(true);
-  reader.setAutoTransform(true);
-  QImageReader::setAllocationLimit(kLargestImageMegabytes);
+  Decoder decoder(*file.bytes);
+  if (decoder.is_too_large()) return {};
+  QImageReader& reader = decoder.reader();
   const Qt::AspectRatioMode mode =
       fit == PictureFit::kCover ? Qt::KeepAspectRatioByExpanding : Qt::KeepAspectRatio;
   const QSize natural = reader.size();
   const QSize wanted = natural.scaled(size, mode).expandedTo(QSize(1, 1));
   const bool smaller = natural.isValid() && wanted.width() < natural.width();
-  if (smaller && reader.supportsOption(QImageIOHandler::ScaledSize)) reader.setScaledSize(wanted);
+  if (smaller && decoder.scales()) reader.setScaledSize(wanted);
   QImage image = reader.read();
   if (image.isNull()) return image;
   // Smooth scaling looks at every pixel; of a picture far larger than shown, four samples for each shown
@@ -38,6 +65,16 @@ QImage decode(const PictureFile& file, const QSize& size, PictureFit fit) {
 }
 
 }  // namespace
+
+QString why_undecodable(const PictureFile& file) {
+  if (!file.bytes) return {};
+  Decoder decoder(*file.bytes);
+  if (!decoder.is_too_large()) return {};
+  const QSize size = decoder.reader().size();
+  return QStringLiteral("The picture is too large to be shown: %1 x %2 pixels")
+      .arg(size.width())
+      .arg(size.height());
+}
 
 QPixmap decode_picture(const Picture& picture, const QSize& size, PictureFit fit) {
   QImage image = decode(picture.picture, size, fit);

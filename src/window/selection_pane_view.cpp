@@ -9,6 +9,25 @@
 
 namespace vorlund {
 
+namespace {
+
+/// A description as it is shown: laying out a line takes time that grows with the square of its length, so a
+/// line that is longer than anybody's goes on in the next.
+QString in_short_lines(const QString& text) {
+  constexpr qsizetype kLongest = 2000;
+  QStringList shown;
+  for (const QString& line : QString(text).replace("\r\n", "\n").split('\n')) {
+    qsizetype at = 0;
+    do {
+      shown.append(line.mid(at, kLongest));
+      at += kLongest;
+    } while (at < line.size());
+  }
+  return shown.join('\n');
+}
+
+}  // namespace
+
 SelectionPaneView::SelectionPaneView(Form1& form, const Perform& perform, QWidget* parent)
     : PaneView(form, perform) {
   const SelectionPane& pane = form.selection;
@@ -112,9 +131,9 @@ QWidget* SelectionPaneView::make_description() {
   description->setReadOnly(true);
   description->setTabChangesFocus(true);
   description->setCursor(Qt::ArrowCursor);
-  also([description, &data = form_.selection.Text1] {
-    const QString words = QString::fromStdString(data.text).replace("\r\n", "\n");
-    if (description->toPlainText() != words) description->setPlainText(words);
+  also([description, &data = form_.selection.Text1, shown = std::string()]() mutable {
+    if (shown != data.text) description->setPlainText(in_short_lines(QString::fromStdString(data.text)));
+    shown = data.text;
     description->setVisible(data.visible);
   });
   return description;
@@ -123,7 +142,13 @@ QWidget* SelectionPaneView::make_description() {
 QLayout* SelectionPaneView::make_commands() {
   const SelectionPane& pane = form_.selection;
   auto* picture_hint = label("Image1Hint", 1.0, "Single click to load");
-  also([picture_hint, &pane] { picture_hint->setVisible(pane.Image1.visible); });
+  also([picture_hint, &pane, shown = std::shared_ptr<const std::string>()]() mutable {
+    picture_hint->setVisible(pane.Image1.visible);
+    if (shown == pane.Image1.picture.bytes) return;
+    shown = pane.Image1.picture.bytes;
+    const QString why = why_undecodable(pane.Image1.picture);
+    picture_hint->setText(why.isEmpty() ? QStringLiteral("Single click to load") : why);
+  });
   auto* commands = new QHBoxLayout;
   commands->addWidget(picture_hint);
   commands->addStretch(1);

@@ -5,6 +5,7 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QtTest/QTest>
+#include <algorithm>
 
 #include "window/action_label.h"
 #include "window/aircraft_window.h"
@@ -52,6 +53,20 @@ class GameWindow : public AircraftWindow {
 
   QString status() { return text("StatusLine"); }
 };
+
+TEST_F(GameWindow, ADescriptionOfOneEndlessLineIsShownInShortOnes) {
+  const std::string line(1'000'000, 'x');
+  store("Scenery/Winter/contents.txt", "\r\nShort.\r\n" + line);
+  click("Label9(1)");
+  open_group("Scenery");
+  click(label_of("SelLab", "Winter"));
+  const QStringList shown = static_cast<QPlainTextEdit*>(widget("Text1"))->toPlainText().split('\n');
+  EXPECT_EQ(shown.at(0), "");
+  EXPECT_EQ(shown.at(1), "Short.");
+  EXPECT_TRUE(
+      std::all_of(shown.begin(), shown.end(), [](const QString& part) { return part.size() <= 2000; }));
+  EXPECT_EQ(shown.mid(2).join("").size(), qsizetype(line.size()));
+}
 
 TEST_F(GameWindow, AGameSetIsComposedInstalledAndShownAtTheNextStart) {
   click("Label9(1)");

@@ -70,6 +70,42 @@ TEST(Pictures, ThatAreDamagedOrMissingGiveWayToTheDefaultOne) {
   }
 }
 
+/// A bitmap that says it is this large, each size given in its four bytes, and ends there.
+PictureFile claimed_bitmap(const std::string& width, const std::string& height) {
+  using namespace std::string_literals;
+  const std::string rest = "\x01\0\x18\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0\0"s;
+  return {"mypic", std::make_shared<const std::string>("BM\0\0\0\0\0\0\0\0\x36\0\0\0\x28\0\0\0"s + width +
+                                                       height + rest)};
+}
+
+TEST(Pictures, TooLargeToBeDecodedSaySo) {
+  using namespace std::string_literals;
+  EXPECT_EQ(why_undecodable(claimed_bitmap("\x80\x3E\0\0"s, "\x80\x3E\0\0"s)),
+            "The picture is too large to be shown: 16000 x 16000 pixels");
+  EXPECT_EQ(why_undecodable(claimed_bitmap("\x40\x1F\0\0"s, "\x41\x1F\0\0"s)),
+            "The picture is too large to be shown: 8000 x 8001 pixels");
+  EXPECT_EQ(why_undecodable(claimed_bitmap("\x40\x1F\0\0"s, "\x40\x1F\0\0"s)), "") << "64 million pixels";
+  EXPECT_EQ(why_undecodable(damaged_file()), "");
+  EXPECT_EQ(why_undecodable({}), "");
+}
+
+TEST(Pictures, OfAFormatThatCanBeScaledMayBeLarger) {
+  PictureFile file = picture_file("jpg", {80, 40}, kRed);
+  std::string bytes = *file.bytes;
+  const std::size_t size = bytes.find("\xFF\xC0") + 5;
+  bytes.replace(size, 4, "\x75\x30\x75\x30");
+  EXPECT_EQ(why_undecodable({"mypic", std::make_shared<const std::string>(bytes)}), "");
+  bytes.replace(size, 4, "\xFF\xDC\xFF\xDC");
+  EXPECT_EQ(why_undecodable({"mypic", std::make_shared<const std::string>(bytes)}),
+            "The picture is too large to be shown: 65500 x 65500 pixels");
+}
+
+TEST(Pictures, ThatAreTooLargeGiveWayToTheDefaultOne) {
+  const PictureFile fallback = picture_file("png", {20, 20}, kBlue);
+  const PictureFile large = picture_file("bmp", {8000, 8001}, kRed);
+  EXPECT_EQ(middle_of(decode_picture({large, fallback}, {20, 20}, PictureFit::kWhole)), kBlue);
+}
+
 TEST(Pictures, HaveABorderWhereOneIsAskedFor) {
   for (const bool bordered : {false, true}) {
     QWidget window;  // Windows gives one of its own a least width

@@ -30,9 +30,7 @@ struct CellTable {
 
   /// Shows or hides a row that exists.
   void hide_row(int row, bool hidden) { rows.at(static_cast<std::size_t>(row)).hidden = hidden; }
-  [[nodiscard]] bool is_hidden(int row) const {
-    return rows.at(static_cast<std::size_t>(row)).hidden;
-  }
+  [[nodiscard]] bool is_hidden(int row) const { return rows.at(static_cast<std::size_t>(row)).hidden; }
 
   [[nodiscard]] int row_count() const { return static_cast<int>(rows.size()); }
 };

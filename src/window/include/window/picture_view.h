@@ -16,8 +16,12 @@ enum class PictureFit {
 };
 
 /// The picture as it is shown in `size` pixels: `picture`, else `fallback` where the former is none or can't
-/// be decoded, else null. Decoded no larger than needed.
+/// be decoded, else null. Decoded no larger than needed. A picture of more than 64 million pixels counts as
+/// one that can't be decoded, and of 64 times as many where its decoder can leave out what is not shown.
 QPixmap decode_picture(const Picture& picture, const QSize& size, PictureFit fit);
+
+/// Why a picture is not decoded, in plain words, "" where it is tried.
+QString why_undecodable(const PictureFile& file);
 
 /// A widget for one Picture of the model; a click is handed back.
 class PictureView : public QWidget {
