@@ -20,6 +20,17 @@ constexpr int kFirstAreaRecord = 44;
 constexpr int kSecondAreaRecord = 12;
 constexpr std::int64_t kSecondAreaStart = 7929;  // position of record number 0, counted from 1
 constexpr std::int64_t kSecondAreaBlock = 60;
+static_assert(kSecondAreaBlock == std::int64_t{5} * kSecondAreaRecord);
+
+/// True where every record number has room for 7 or 3 records before the next one's.
+constexpr bool offsets_leave_room() {
+  for (std::size_t number = 0; number + 2 < kLoadoutOffsets.size(); ++number) {
+    const int room = kLoadoutOffsets[number + 1] - kLoadoutOffsets[number];
+    if (room != 7 * kFirstAreaRecord && room != 3 * kFirstAreaRecord) return false;
+  }
+  return true;
+}
+static_assert(offsets_leave_room());
 
 struct Area {
   std::string_view pattern;

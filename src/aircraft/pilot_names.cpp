@@ -18,6 +18,7 @@ namespace {
 constexpr std::size_t kTable = 8;  // offset of the position table; positions are counted from here
 constexpr std::size_t kNames = static_cast<std::size_t>(kPlaneCount);
 constexpr std::size_t kFirstPosition = 4 * kNames;
+static_assert(kTable + kFirstPosition == 128, "the offset of the first name in the game's own pnames.str");
 constexpr int kSignedLimit = 32768;
 constexpr std::uint64_t kLongestRead = 128 * 1024;  // past every position that a field can hold
 

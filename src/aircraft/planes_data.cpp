@@ -6,6 +6,7 @@
 #include <string>
 
 #include "aircraft/flight_model_folder.h"
+#include "aircraft/plane_codes.h"
 #include "aircraft/positioned_file.h"
 #include "aircraft/value_file.h"
 #include "base/action_error.h"
@@ -21,6 +22,8 @@ namespace {
 constexpr int kValues = 168;
 constexpr std::int64_t kRecordSize = 216;
 constexpr std::int64_t kHeaderSize = 4;
+static_assert(kHeaderSize + kPlaneCount * kRecordSize == 6484, "the game's own Planes.dat");
+static_assert(kValues < kRecordSize, "a record must not reach into the next");
 
 // Value lines with a meaning, counted from 1 after the title.
 constexpr int kFlagsLine = 5;      // bit 7 German, bits 0-1 role, bit 2 flyable
