@@ -138,15 +138,7 @@ TEST_P(AircraftInstallerFaults, LeaveEveryFileWholeAndCanBeResumed) {
   EXPECT_GE(failures, 12) << "the sweep must reach every file that is written";
 }
 
-INSTANTIATE_TEST_SUITE_P(Sweep, AircraftInstallerFaults,
-                         ::testing::Values(std::pair(FaultKind::kError, FaultSpan::kOnce),
-                                           std::pair(FaultKind::kError, FaultSpan::kPersistent),
-                                           std::pair(FaultKind::kNoRight, FaultSpan::kOnce),
-                                           std::pair(FaultKind::kNoRight, FaultSpan::kPersistent),
-                                           std::pair(FaultKind::kShortWrite, FaultSpan::kOnce),
-                                           std::pair(FaultKind::kShortWrite, FaultSpan::kPersistent),
-                                           std::pair(FaultKind::kDiskFull, FaultSpan::kOnce),
-                                           std::pair(FaultKind::kDiskFull, FaultSpan::kPersistent)));
+INSTANTIATE_TEST_SUITE_P(Sweep, AircraftInstallerFaults, testing::ValuesIn(test::kEveryFault));
 
 }  // namespace
 }  // namespace vorlund

@@ -50,15 +50,7 @@ TEST_P(StartFaults, EndStartUpAndLeaveEveryFileWhole) {
   EXPECT_GT(number, kind == FaultKind::kError ? 15 : 1);
 }
 
-INSTANTIATE_TEST_SUITE_P(Sweep, StartFaults,
-                         ::testing::Values(std::pair(FaultKind::kError, FaultSpan::kOnce),
-                                           std::pair(FaultKind::kError, FaultSpan::kPersistent),
-                                           std::pair(FaultKind::kNoRight, FaultSpan::kOnce),
-                                           std::pair(FaultKind::kNoRight, FaultSpan::kPersistent),
-                                           std::pair(FaultKind::kShortWrite, FaultSpan::kOnce),
-                                           std::pair(FaultKind::kShortWrite, FaultSpan::kPersistent),
-                                           std::pair(FaultKind::kDiskFull, FaultSpan::kOnce),
-                                           std::pair(FaultKind::kDiskFull, FaultSpan::kPersistent)));
+INSTANTIATE_TEST_SUITE_P(Sweep, StartFaults, testing::ValuesIn(test::kEveryFault));
 
 }  // namespace
 }  // namespace vorlund

@@ -1,7 +1,9 @@
 // A file system that fails on demand, to show what a failing disk leaves behind.
 #pragma once
 
+#include <array>
 #include <string>
+#include <utility>
 
 #include "support/forwarding_file_system.h"
 
@@ -18,6 +20,18 @@ enum class FaultSpan {
   kOnce,        ///< only the operation with the number fails
   kPersistent,  ///< that one and all after it fail
 };
+
+/// What a sweep goes through: every kind, for one operation and for all that follow.
+inline constexpr std::array<std::pair<FaultKind, FaultSpan>, 8> kEveryFault = {{
+    {FaultKind::kError, FaultSpan::kOnce},
+    {FaultKind::kError, FaultSpan::kPersistent},
+    {FaultKind::kNoRight, FaultSpan::kOnce},
+    {FaultKind::kNoRight, FaultSpan::kPersistent},
+    {FaultKind::kShortWrite, FaultSpan::kOnce},
+    {FaultKind::kShortWrite, FaultSpan::kPersistent},
+    {FaultKind::kDiskFull, FaultSpan::kOnce},
+    {FaultKind::kDiskFull, FaultSpan::kPersistent},
+}};
 
 struct Fault {
   int number;  ///< counted from 1
