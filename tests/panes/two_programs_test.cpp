@@ -2,7 +2,9 @@
 // says.
 #include <chrono>
 #include <functional>
+#include <optional>
 #include <thread>
+#include <utility>
 
 #include "panes/form_fixture.h"
 
