@@ -74,7 +74,7 @@ void LeadingNumber::take_digit(char digit) {
 }
 
 void LeadingNumber::take_exponent_digit(char digit) {
-  if (exponent_ < kLargestExponent) exponent_ = exponent_ * 10 + (digit - '0');
+  if (exponent_ < kLargestExponent / 10) exponent_ = exponent_ * 10 + (digit - '0');
 }
 
 double LeadingNumber::value() const {

@@ -1,5 +1,6 @@
 // Saving set-ups under names.
 #include <algorithm>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -108,7 +109,7 @@ TEST_F(SavingSetups, CancelAndTheBackgroundCloseThePaneAndWriteNothing) {
   for (const auto close : {&Form1::Label39_Click, &Form1::SaveFrame_Click}) {
     form.Label11_Click();
     save.Text2.text = "Name";
-    (form.*close)();
+    std::invoke(close, form);
     EXPECT_FALSE(save.SaveFrame.visible);
   }
   EXPECT_TRUE(folder.names("~Vorlund/GameSetFiles").empty());

@@ -79,7 +79,7 @@ class PaneView {
   /// Runs a handler with its arguments as an event does.
   template <typename... Parameters, typename... Arguments>
   void run(void (Form1::*handler)(Parameters...), const Arguments&... arguments) const {
-    perform_([&] { (form_.*handler)(arguments...); });
+    perform_([&] { std::invoke(handler, form_, arguments...); });
   }
 
   Form1& form_;
