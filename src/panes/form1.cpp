@@ -312,7 +312,6 @@ void Form1::clean_up() {
   save_pane.hide();
   desk.labels.Label2.visible = false;
   selection.remove_group_labels();
-  selection.ShowSelected();
   desk.say(summary.sentence());
 }
 
