@@ -49,6 +49,12 @@ install_packages() {
   fi
 }
 
+# The packages of Debian that decide what a Windows build is made of, each with its version.
+windows_tools() {
+  dpkg-query --show --showformat='${binary:Package} ${Version}\n' g++-mingw-w64-x86-64-posix \
+    gcc-mingw-w64-x86-64-posix-runtime mingw-w64-x86-64-dev binutils-mingw-w64-x86-64
+}
+
 # configure PRESET [CMAKE-ARGUMENT...]: prepares build/PRESET.
 configure() {
   local preset=$1

@@ -5,8 +5,8 @@
 #include <cstdlib>
 
 #include "disk/file_system.h"
+#include "support/another_program.h"
 #include "support/temporary_folder.h"
-#include "windows/windows_path.h"
 
 namespace vorlund {
 namespace {
@@ -28,26 +28,14 @@ const bool kStartedAsHolder = [] {
 TEST(WindowsFolderLocksTest, WhatAnotherProgramHoldsIsFreeWhenItIsEnded) {
   const test::TemporaryFolder folder;
   folder.make_folder("Game");
-  std::wstring self(32768, L'\0');
-  self.resize(GetModuleFileNameW(nullptr, self.data(), static_cast<DWORD>(self.size())));
-  STARTUPINFOW start{};
-  start.cb = sizeof start;
-  PROCESS_INFORMATION process{};
-  ASSERT_NE(SetEnvironmentVariableW(kHoldMark, L"1"), 0);
-  const BOOL started = CreateProcessW(self.c_str(), nullptr, nullptr, nullptr, FALSE, 0, nullptr,
-                                      to_wide(folder.path("Game")).c_str(), &start, &process);
-  SetEnvironmentVariableW(kHoldMark, nullptr);
-  ASSERT_NE(started, 0);
+  const test::AnotherProgram other(kHoldMark, L"1", folder.path("Game"));
   for (int round = 0; round < 300 && !folder.has("Game\\held"); ++round) Sleep(100);
   ASSERT_TRUE(folder.has("Game\\held"));
 
   const auto files = make_platform_file_system();
   EXPECT_EQ(folder.read("Game\\held"), "");
   EXPECT_EQ(files->lock_folders({folder.path("GAME")}, 0ms).in_use(), folder.path("GAME"));
-  ASSERT_NE(TerminateProcess(process.hProcess, 1), 0);
-  WaitForSingleObject(process.hProcess, INFINITE);
-  CloseHandle(process.hThread);
-  CloseHandle(process.hProcess);
+  other.end();
   EXPECT_EQ(files->lock_folders({folder.path("Game")}, 10s).in_use(), "");
   EXPECT_EQ(folder.names("Game"), std::vector<std::string>{"held"});
 }

@@ -72,17 +72,18 @@ class WindowsFileSystem final : public FileSystem {
   /// Copies are written beside their targets: a file moved out of another folder would keep the access rights
   /// that it inherited there.
   void begin_action(Pulse pulse, std::string_view) override {
-    content_.set_pulse(std::move(pulse));
+    patience_.set_pulse(std::move(pulse));
     unseen_.clear();
   }
-  void end_action() override { content_.set_pulse({}); }
+  void end_action() override { patience_.set_pulse({}); }
 
  private:
   /// After a look that failed: returns where nothing is there; where there is no right to look as well, and
   /// that is noted. Otherwise the failure is an error.
   void take_for_missing(std::string_view path);
 
-  WindowsContent content_;
+  WindowsPatience patience_;
+  WindowsContent content_{patience_};
   std::set<std::string> unseen_;  ///< paths that there was no right to look at
 };
 
@@ -168,7 +169,7 @@ std::vector<FolderEntry> WindowsFileSystem::entries(std::string_view folder) {
 /// Reads an open file block by block.
 class WindowsReader final : public FileReader {
  public:
-  explicit WindowsReader(std::string_view path) : source_(path) {}
+  WindowsReader(std::string_view path, const WindowsPatience& patience) : source_(path, patience) {}
 
   std::uint64_t size() const override { return source_.size(); }
 
@@ -183,11 +184,11 @@ class WindowsReader final : public FileReader {
 };
 
 std::unique_ptr<FileReader> WindowsFileSystem::open_file(std::string_view path) {
-  return std::make_unique<WindowsReader>(path);
+  return std::make_unique<WindowsReader>(path, patience_);
 }
 
 void WindowsFileSystem::replace_file(std::string_view path, std::string_view bytes, Durability durability) {
-  WindowsTarget target(path, Spelling::kAsItStands);
+  WindowsTarget target(path, Spelling::kAsItStands, patience_);
   const HANDLE written = target.begin();
   if (!write_all(written, bytes)) throw_windows_error("write", path);
   target.finish(durability);
@@ -195,8 +196,8 @@ void WindowsFileSystem::replace_file(std::string_view path, std::string_view byt
 
 CopyOutcome WindowsFileSystem::copy_file(std::string_view source_path, std::string_view target_path,
                                          Durability durability) {
-  const WindowsSource source(source_path);
-  WindowsTarget target(target_path, Spelling::kAsAsked);
+  const WindowsSource source(source_path, patience_);
+  WindowsTarget target(target_path, Spelling::kAsAsked, patience_);
   {
     const WindowsHandle existing = target.open_to_compare(source.size());
     if (existing.is_open() && content_.same(source, existing.get())) {
@@ -214,7 +215,9 @@ void WindowsFileSystem::remove_file(std::string_view path) {
   const DWORD attributes = GetFileAttributesW(spelled.c_str());
   if (attributes == INVALID_FILE_ATTRIBUTES) throw_windows_error(kAttempted, path);
   refuse_read_only(attributes, kAttempted, path);
-  if (DeleteFileW(spelled.c_str()) == 0) throw_windows_error(kAttempted, path);
+  if (!patience_.insist_on_change([&] { return DeleteFileW(spelled.c_str()) != 0; })) {
+    throw_windows_error(kAttempted, path, likely_cause(GetLastError(), spelled));
+  }
 }
 
 void WindowsFileSystem::start_program(std::string_view path, std::string_view folder) {

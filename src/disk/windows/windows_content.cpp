@@ -21,9 +21,12 @@ bool is_folder(std::string_view path) {
 
 }  // namespace
 
-WindowsSource::WindowsSource(std::string_view path)
-    : path_(path),
-      handle_(open_existing(long_path(path, EntryKind::kFile), GENERIC_READ, FILE_FLAG_SEQUENTIAL_SCAN)) {
+WindowsSource::WindowsSource(std::string_view path, const WindowsPatience& patience) : path_(path) {
+  const std::wstring spelled = long_path(path, EntryKind::kFile);
+  patience.insist([&] {
+    handle_ = open_existing(spelled, GENERIC_READ, FILE_FLAG_SEQUENTIAL_SCAN);
+    return handle_.is_open();
+  });
   LARGE_INTEGER size;
   if (!handle_.is_open() && is_folder(path)) throw ActionError("read", path, kIsFolder);
   if (!handle_.is_open() || GetFileSizeEx(handle_.get(), &size) == 0) throw_windows_error("read", path);
@@ -67,7 +70,7 @@ void WindowsContent::worked_through(std::uint64_t bytes) {
   since_pulse_ += bytes;
   if (since_pulse_ < kPulseBytes) return;
   since_pulse_ = 0;
-  if (pulse_) pulse_();
+  patience_.pulse();
 }
 
 }  // namespace vorlund

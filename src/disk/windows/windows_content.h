@@ -4,20 +4,19 @@
 #include <windows.h>
 
 #include <cstdint>
-#include <functional>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 #include "windows/windows_file.h"
+#include "windows/windows_patience.h"
 
 namespace vorlund {
 
 /// A file opened to be read; its functions throw ActionError.
 class WindowsSource {
  public:
-  explicit WindowsSource(std::string_view path);
+  WindowsSource(std::string_view path, const WindowsPatience& patience);
 
   HANDLE handle() const { return handle_.get(); }
   std::uint64_t size() const { return size_; }
@@ -32,8 +31,8 @@ class WindowsSource {
 /// Copies files one after the other through buffers that are used again. Functions throw ActionError.
 class WindowsContent {
  public:
-  /// Called at least every 1 MiB while files are compared or copied.
-  void set_pulse(std::function<void()> pulse) { pulse_ = std::move(pulse); }
+  /// There is a pulse at least every 1 MiB while files are compared or copied.
+  explicit WindowsContent(const WindowsPatience& patience) : patience_(patience) {}
 
   /// True when the target, which is as long as the source, holds the same bytes. Those alone
   /// count: there are disks that give two files one number.
@@ -46,7 +45,7 @@ class WindowsContent {
   std::string_view next_block(const WindowsSource& source);
   void worked_through(std::uint64_t bytes);
 
-  std::function<void()> pulse_;
+  const WindowsPatience& patience_;
   std::uint64_t since_pulse_ = 0;
   std::vector<char> source_buffer_;
   std::vector<char> target_buffer_;

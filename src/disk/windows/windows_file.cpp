@@ -15,8 +15,10 @@ namespace {
 
 constexpr std::size_t kLargestTransfer = 64U << 20;
 
-/// The system's sentence for an error, without the line end and full stop that it carries.
+/// The system's sentence for an error, without the line end and full stop that it carries; its one for a file
+/// in use does not say what to look for.
 std::string error_text(DWORD error) {
+  if (says_in_use(error)) return "another program, perhaps the game itself, has it open";
   wchar_t* text = nullptr;
   const DWORD length = FormatMessageW(
       FORMAT_MESSAGE_ALLOCATE_BUFFER | FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr,
@@ -89,6 +91,11 @@ bool tells_nothing(DWORD error) {
                                                     ERROR_DEV_NOT_EXIST,
                                                     ERROR_UNEXP_NET_ERR};
   return std::find(kErrors.begin(), kErrors.end(), error) != kErrors.end();
+}
+
+bool says_in_use(DWORD error) {
+  return error == ERROR_SHARING_VIOLATION || error == ERROR_LOCK_VIOLATION || error == ERROR_DELETE_PENDING ||
+         error == ERROR_USER_MAPPED_FILE;
 }
 
 WindowsHandle open_existing(const std::wstring& path, DWORD access, DWORD flags) {

@@ -38,6 +38,9 @@ class WindowsHandle {
 /// out. A drive without a medium holds nothing, which is an answer.
 bool tells_nothing(DWORD error);
 
+/// True for an error that says that another program has the file in use.
+bool says_in_use(DWORD error);
+
 /// Opens an existing file so that others may go on using it. Not open, with the system's error, on failure.
 WindowsHandle open_existing(const std::wstring& path, DWORD access, DWORD flags);
 

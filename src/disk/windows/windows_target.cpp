@@ -17,6 +17,10 @@ namespace vorlund {
 namespace {
 
 constexpr std::string_view kRename = "give its spelling to";
+constexpr std::string_view kNoRight =
+    "there is no right to write in its folder. Move the game to a folder of your own, outside \"Program "
+    "Files\", "
+    "or give your account the right to change that folder";
 
 /// Attributes that a replaced file hands on.
 constexpr DWORD kKeptAttributes = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_ARCHIVE;
@@ -43,8 +47,8 @@ bool is_link(const WIN32_FIND_DATAW& entry) {
          IsReparseTagNameSurrogate(entry.dwReserved0);
 }
 
-WindowsTarget::WindowsTarget(std::string_view path, Spelling spelling)
-    : path_(path), long_path_(long_path(path, EntryKind::kFile)) {
+WindowsTarget::WindowsTarget(std::string_view path, Spelling spelling, const WindowsPatience& patience)
+    : patience_(patience), path_(path), long_path_(long_path(path, EntryKind::kFile)) {
   const std::size_t name_begin = long_path_.rfind(L'\\') + 1;
   folder_ = long_path_.substr(0, name_begin);
   name_ = long_path_.substr(name_begin);
@@ -80,8 +84,12 @@ bool WindowsTarget::keep(Durability durability) {
   settle_spelling();
   const bool read_only = (existing_->dwFileAttributes & FILE_ATTRIBUTE_READONLY) != 0;
   if (durability == Durability::kFlushed && !read_only) {
-    const WindowsHandle kept = open_existing(long_path_, GENERIC_WRITE, 0);
-    if (!kept.is_open() || FlushFileBuffers(kept.get()) == 0) fail("flush");
+    WindowsHandle kept;
+    const bool opened = patience_.insist([&] {
+      kept = open_existing(long_path_, GENERIC_WRITE, 0);
+      return kept.is_open();
+    });
+    if (!opened || FlushFileBuffers(kept.get()) == 0) fail("flush");
   }
   return as_asked;
 }
@@ -92,9 +100,13 @@ HANDLE WindowsTarget::begin() {
   delete_matching(folder_, is_left_over);
   for (unsigned attempt = 0; !written_.is_open(); ++attempt) {
     const std::wstring neighbour = folder_ + to_wide(staging_name(attempt));
-    written_ = WindowsHandle(CreateFileW(neighbour.c_str(), GENERIC_WRITE | DELETE, 0, nullptr, CREATE_NEW,
-                                         kept != 0 ? kept : FILE_ATTRIBUTE_NORMAL, nullptr));
-    const DWORD error = written_.is_open() ? ERROR_SUCCESS : GetLastError();
+    const bool created = patience_.insist_on_change([&] {
+      written_ = WindowsHandle(CreateFileW(neighbour.c_str(), GENERIC_WRITE | DELETE, 0, nullptr, CREATE_NEW,
+                                           kept != 0 ? kept : FILE_ATTRIBUTE_NORMAL, nullptr));
+      return written_.is_open();
+    });
+    const DWORD error = created ? ERROR_SUCCESS : GetLastError();
+    if (error == ERROR_ACCESS_DENIED) throw ActionError("write", path_, kNoRight);
     if (error != ERROR_SUCCESS && error != ERROR_FILE_EXISTS && error != ERROR_ALREADY_EXISTS) fail();
   }
   return written_.get();
@@ -116,7 +128,7 @@ bool WindowsTarget::rename_written() const {
 void WindowsTarget::finish(Durability durability) {
   const bool flushed = durability == Durability::kFlushed;
   if (flushed && FlushFileBuffers(written_.get()) == 0) fail("flush");
-  if (!rename_written()) fail();
+  if (!patience_.insist_on_change([this] { return rename_written(); })) fail();
   WindowsHandle renamed = std::move(written_);
   if (flushed && FlushFileBuffers(renamed.get()) == 0) fail("flush");
   if (!renamed.close()) fail();
@@ -137,7 +149,7 @@ void WindowsTarget::settle_spelling() const {
   };
   if (spelled_as_asked()) return;
   const std::wstring spelled = folder_ + existing_->cFileName;
-  if (MoveFileExW(spelled.c_str(), long_path_.c_str(), 0) == 0) fail(kRename);
+  if (!move(spelled, long_path_)) fail(kRename);
   if (spelled_as_asked()) return;
 
   // Where a rename that changes nothing but case is passed over, as by Wine, the file takes a step over a
@@ -146,16 +158,21 @@ void WindowsTarget::settle_spelling() const {
   for (unsigned attempt = 0; step.empty() || find_entry(step); ++attempt) {
     step = folder_ + to_wide(staging_name(attempt));
   }
-  if (MoveFileExW(spelled.c_str(), step.c_str(), 0) == 0) fail(kRename);
-  if (MoveFileExW(step.c_str(), long_path_.c_str(), 0) == 0) {
+  if (!move(spelled, step)) fail(kRename);
+  if (!move(step, long_path_)) {
     const DWORD error = GetLastError();
-    MoveFileExW(step.c_str(), spelled.c_str(), 0);
+    move(step, spelled);
     throw_windows_error(kRename, path_, error);
   }
 }
 
+/// False, with the system's error, on failure.
+bool WindowsTarget::move(const std::wstring& from, const std::wstring& to) const {
+  return patience_.insist_on_change([&] { return MoveFileExW(from.c_str(), to.c_str(), 0) != 0; });
+}
+
 void WindowsTarget::fail(std::string_view attempted) const {
-  throw_windows_error(attempted, path_);
+  throw_windows_error(attempted, path_, likely_cause(GetLastError(), long_path_));
 }
 
 }  // namespace vorlund

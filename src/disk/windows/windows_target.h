@@ -11,6 +11,7 @@
 #include "disk/file_system.h"
 #include "spelling.h"
 #include "windows/windows_file.h"
+#include "windows/windows_patience.h"
 
 namespace vorlund {
 
@@ -19,7 +20,7 @@ namespace vorlund {
 class WindowsTarget {
  public:
   /// Looks up what is there. `path` is the path as the program spells it.
-  WindowsTarget(std::string_view path, Spelling spelling);
+  WindowsTarget(std::string_view path, Spelling spelling, const WindowsPatience& patience);
 
   /// Removes the neighbour of a write that was not finished.
   ~WindowsTarget();
@@ -42,10 +43,12 @@ class WindowsTarget {
  private:
   bool rename_written() const;
   bool spelled_otherwise() const;
+  bool move(const std::wstring& from, const std::wstring& to) const;
   /// Spells the file that is in place as asked.
   void settle_spelling() const;
   [[noreturn]] void fail(std::string_view attempted = "write") const;
 
+  const WindowsPatience& patience_;
   std::string path_;
   std::wstring long_path_;
   std::wstring folder_;  ///< with a backslash at its end
