@@ -90,6 +90,15 @@ std::string quoted(std::string_view text) {
   return marked.append(text).append("\"");
 }
 
+std::string first_of(const std::vector<std::string>& texts) {
+  constexpr std::size_t kNamed = 3;
+  std::string named;
+  for (std::size_t index = 0; index < std::min(texts.size(), kNamed); ++index) {
+    named.append(index > 0 ? "; " : "").append(texts[index]);
+  }
+  return texts.size() > kNamed ? named + "; ..." : named;
+}
+
 std::string_view bare_name(std::string_view path) {
   return path.substr(path.rfind('\\') + 1);
 }

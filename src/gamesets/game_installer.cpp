@@ -101,17 +101,6 @@ class Installation {
   GameSetSummary summary_;
 };
 
-/// At most so many of the rows that were passed over are named.
-constexpr std::size_t kNamedRows = 3;
-
-std::string passed_over(const std::vector<std::string>& missing) {
-  std::string text = counted(missing.size(), "row", "rows") + " passed over, for want of a folder: ";
-  for (std::size_t index = 0; index < std::min(missing.size(), kNamedRows); ++index) {
-    text.append(index > 0 ? "; " : "").append(missing[index]);
-  }
-  return missing.size() > kNamedRows ? text + "; ..." : text;
-}
-
 }  // namespace
 
 SetFileUse use_of_set_file(std::string_view name) {
@@ -140,7 +129,10 @@ std::string GameSetSummary::text() const {
   say(patches_passed, counted(patches_passed, "patch", "patches") + " passed over: there is no eaw.exe");
   std::string text = parts.empty() ? "There was nothing to install" : "";
   for (const std::string& part : parts) text.append(text.empty() ? "" : ", ").append(part);
-  if (!missing.empty()) text += "\n" + passed_over(missing);
+  if (!missing.empty()) {
+    text += "\n" + counted(missing.size(), "row", "rows") +
+            " passed over, for want of a folder: " + first_of(missing);
+  }
   return text;
 }
 

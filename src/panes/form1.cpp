@@ -8,6 +8,7 @@
 #include "aircraft/plane_record.h"
 #include "aircraft/skin_list.h"
 #include "base/plain_name.h"
+#include "base/text.h"
 #include "disk/copier.h"
 #include "disk/store.h"
 #include "gamesets/clean_up.h"
@@ -27,9 +28,6 @@ constexpr int kTwoLineHeight = 690;
 
 /// So long a start waits for the action of another program.
 constexpr std::chrono::seconds kStartWaits{2};
-
-/// At most so many of the paths that could not be looked at are named.
-constexpr std::size_t kNamedPaths = 3;
 
 void place_label(Label& label, int top) {
   label.place = {kMenuLeft, top, kMenuWidth, kLabelHeight};
@@ -278,11 +276,7 @@ void Form1::act(const std::function<void()>& action) {
 void Form1::say_unseen() {
   const std::vector<std::string> unseen = desk.files.take_unseen();
   if (unseen.empty()) return;
-  std::string text = "Taken for missing, for want of the right to look: ";
-  for (std::size_t index = 0; index < std::min(unseen.size(), kNamedPaths); ++index) {
-    text.append(index > 0 ? "; " : "").append(unseen[index]);
-  }
-  desk.say_too(unseen.size() > kNamedPaths ? text + "; ..." : text);
+  desk.say_too("Taken for missing, for want of the right to look: " + first_of(unseen));
 }
 
 void Form1::change_tables(const std::function<void()>& change) {

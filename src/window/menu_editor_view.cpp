@@ -4,11 +4,11 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLineEdit>
-#include <QPainter>
 #include <QScrollArea>
 #include <QVBoxLayout>
 #include <array>
 
+#include "window/plate.h"
 #include "window/theme.h"
 
 namespace vorlund {
@@ -22,18 +22,6 @@ constexpr std::array<const char*, 4> kHeadings = {"", "Name in the menu", "Lengt
 constexpr int kPlaneNamesWidth = 168;
 constexpr int kSharedEntries = 9;  // the German menu has two more
 constexpr QSize kMostSize{1080, 540};
-
-/// The panel that holds the country buttons.
-class MenuChoicePanel : public QWidget {
- public:
-  using QWidget::QWidget;
-
- protected:
-  void paintEvent(QPaintEvent*) override {
-    QPainter painter(this);
-    theme::draw_plate(painter, rect(), theme::kPanelTitle, QColor(0, 0, 0, 0));
-  }
-};
 
 }  // namespace
 
@@ -67,7 +55,7 @@ MenuEditorView::MenuEditorView(Form1& form, const Perform& perform, QWidget* par
 
 QWidget* MenuEditorView::make_countries() {
   const MenuEditor& pane = form_.menu_editor;
-  auto* panel = new MenuChoicePanel(frame_);
+  auto* panel = new Plate(frame_, theme::kPanelTitle);
   panel->setObjectName("MnuFrame");
   stand_on(panel);
   auto* caption = note({}, Tone::kPlain);

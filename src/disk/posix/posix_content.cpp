@@ -19,7 +19,6 @@ namespace {
 constexpr std::size_t kBlock = 256 * 1024;
 constexpr std::size_t kBuffer = kBlock + 1;
 constexpr std::size_t kFirstBlock = 4096;
-constexpr std::uint64_t kPulseBytes = 1 << 20;
 
 /// Reads up to `size` bytes at an offset, fewer only at the end of the file; -1, with errno, on failure.
 ssize_t read_at(int descriptor, char* bytes, std::size_t size, std::uint64_t offset) {
@@ -55,7 +54,7 @@ bool PosixContent::known_same(const PosixSource& source, int target) {
   const ssize_t got = ::pread(target, target_buffer_.bytes(kBuffer), size + 1, 0);
   const bool same = got == static_cast<ssize_t>(size) &&
                     std::memcmp(target_buffer_.bytes(kBuffer), source_buffer_.bytes(kBuffer), size) == 0;
-  if (same) worked_through(size);
+  if (same) pulse_.worked_through(size);
   return same;
 }
 
@@ -73,7 +72,7 @@ bool PosixContent::same_as(const PosixSource& source, int target) {
         expected != std::string_view(target_buffer_.bytes(kBuffer), size)) {
       return false;
     }
-    worked_through(size);
+    pulse_.worked_through(size);
     offset += size;
     step = kBlock;
   }
@@ -85,7 +84,7 @@ void PosixContent::write_to(const PosixSource& source, int target, std::string_v
   if (whole_source_read_) {
     const std::string_view bytes(source_buffer_.bytes(kBuffer), static_cast<std::size_t>(source.size()));
     if (!write_all(target, bytes)) throw_system_error("write", target_path);
-    worked_through(bytes.size());
+    pulse_.worked_through(bytes.size());
     return;
   }
   if (clone(source, target)) return;
@@ -146,11 +145,12 @@ std::uint64_t PosixContent::copy_in_kernel(const PosixSource& source, const Run&
   auto offset = static_cast<off_t>(run.begin);
   const auto end = static_cast<off_t>(run.end);
   while (offset < end) {
-    const auto step = std::min(static_cast<std::size_t>(kPulseBytes), static_cast<std::size_t>(end - offset));
+    const auto step =
+        std::min(static_cast<std::size_t>(Pulse::kBytes), static_cast<std::size_t>(end - offset));
     const ssize_t got = ::copy_file_range(source.handle.descriptor(), &offset, target, nullptr, step, 0);
     if (got < 0 && errno == EINTR) continue;
     if (got <= 0) break;
-    worked_through(static_cast<std::uint64_t>(got));
+    pulse_.worked_through(static_cast<std::uint64_t>(got));
   }
   return static_cast<std::uint64_t>(offset);
 #else
@@ -168,15 +168,8 @@ void PosixContent::copy_blocks(const PosixSource& source, const Run& run, int ta
     if (bytes.empty()) return;
     if (!write_all(target, bytes)) throw_system_error("write", target_path);
     offset += bytes.size();
-    worked_through(bytes.size());
+    pulse_.worked_through(bytes.size());
   }
-}
-
-void PosixContent::worked_through(std::uint64_t bytes) {
-  since_pulse_ += bytes;
-  if (since_pulse_ < kPulseBytes) return;
-  since_pulse_ = 0;
-  if (pulse_) pulse_();
 }
 
 }  // namespace vorlund

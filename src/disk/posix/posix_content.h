@@ -12,6 +12,7 @@
 #include <utility>
 
 #include "posix/posix_file.h"
+#include "pulse.h"
 
 namespace vorlund {
 
@@ -43,7 +44,7 @@ class PageBlock {
 class PosixContent {
  public:
   /// Called at least every 1 MiB while files are compared or copied.
-  void set_pulse(std::function<void()> pulse) { pulse_ = std::move(pulse); }
+  void set_pulse(std::function<void()> pulse) { pulse_.set(std::move(pulse)); }
 
   /// Takes up a source: one that fits into the buffer is read at once.
   void take(const PosixSource& source);
@@ -72,10 +73,8 @@ class PosixContent {
   bool clone(const PosixSource& source, int target);
   std::uint64_t copy_in_kernel(const PosixSource& source, const Run& run, int target);
   void copy_blocks(const PosixSource& source, const Run& run, int target, std::string_view target_path);
-  void worked_through(std::uint64_t bytes);
 
-  std::function<void()> pulse_;
-  std::uint64_t since_pulse_ = 0;
+  Pulse pulse_;
   PageBlock source_buffer_;
   PageBlock target_buffer_;
   bool whole_source_read_ = false;

@@ -9,7 +9,6 @@ namespace vorlund {
 namespace {
 
 constexpr std::size_t kBlock = 256 * 1024;
-constexpr std::uint64_t kPulseBytes = 1 << 20;
 
 /// Leaves the system's error as it is.
 bool is_folder(std::string_view path) {
@@ -41,7 +40,7 @@ bool WindowsContent::same(const WindowsSource& source, HANDLE target) {
     if (!read_up_to(target, target_buffer_.data(), target_buffer_.size(), got)) return false;
     if (expected != std::string_view(target_buffer_.data(), got)) return false;
     if (got == 0) return true;
-    worked_through(got);
+    pulse_.worked_through(got);
   }
 }
 
@@ -53,7 +52,7 @@ void WindowsContent::copy(const WindowsSource& source, HANDLE target, std::strin
     const std::string_view bytes = next_block(source);
     if (bytes.empty()) return;
     if (!write_all(target, bytes)) throw_windows_error("write", target_path);
-    worked_through(bytes.size());
+    pulse_.worked_through(bytes.size());
   }
 }
 
@@ -64,13 +63,6 @@ std::string_view WindowsContent::next_block(const WindowsSource& source) {
     throw_windows_error("read", source.path());
   }
   return {source_buffer_.data(), got};
-}
-
-void WindowsContent::worked_through(std::uint64_t bytes) {
-  since_pulse_ += bytes;
-  if (since_pulse_ < kPulseBytes) return;
-  since_pulse_ = 0;
-  patience_.pulse();
 }
 
 }  // namespace vorlund

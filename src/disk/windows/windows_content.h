@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "pulse.h"
 #include "windows/windows_file.h"
 #include "windows/windows_patience.h"
 
@@ -31,8 +32,10 @@ class WindowsSource {
 /// Copies files one after the other through buffers that are used again. Functions throw ActionError.
 class WindowsContent {
  public:
-  /// There is a pulse at least every 1 MiB while files are compared or copied.
-  explicit WindowsContent(const WindowsPatience& patience) : patience_(patience) {}
+  /// There is a pulse at least every 1 MiB while files are compared or copied. `patience` outlives this.
+  explicit WindowsContent(const WindowsPatience& patience) {
+    pulse_.set([&patience] { patience.pulse(); });
+  }
 
   /// True when the target, which is as long as the source, holds the same bytes. Those alone
   /// count: there are disks that give two files one number.
@@ -43,10 +46,8 @@ class WindowsContent {
 
  private:
   std::string_view next_block(const WindowsSource& source);
-  void worked_through(std::uint64_t bytes);
 
-  const WindowsPatience& patience_;
-  std::uint64_t since_pulse_ = 0;
+  Pulse pulse_;
   std::vector<char> source_buffer_;
   std::vector<char> target_buffer_;
 };

@@ -37,6 +37,9 @@ namespace vorlund {
 /// The text in quotation marks.
 [[nodiscard]] std::string quoted(std::string_view text);
 
+/// The first three of the texts with "; " between them, and "; ..." behind them where there are more.
+[[nodiscard]] std::string first_of(const std::vector<std::string>& texts);
+
 /// The bare name at the end of a path: what follows its last backslash.
 [[nodiscard]] std::string_view bare_name(std::string_view path);
 

@@ -11,13 +11,16 @@ namespace vorlund {
 /// Carries other widgets; its own free area lets clicks through to what it stands on.
 class Plate : public QWidget {
  public:
-  using QWidget::QWidget;
+  explicit Plate(QWidget* parent, const QColor& colour = theme::kPlate) : QWidget(parent), colour_(colour) {}
 
  protected:
   void paintEvent(QPaintEvent*) override {
     QPainter painter(this);
-    theme::draw_plate(painter, rect(), theme::kPlate, QColor(0, 0, 0, 0));
+    theme::draw_plate(painter, rect(), colour_, QColor(0, 0, 0, 0));
   }
+
+ private:
+  QColor colour_;
 };
 
 }  // namespace vorlund
