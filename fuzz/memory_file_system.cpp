@@ -81,12 +81,18 @@ void MemoryFileSystem::replace_file(std::string_view path, std::string_view byte
   files_[key_of(path)] = {normalised(path), std::string(bytes)};
 }
 
+CopyForecast MemoryFileSystem::foresee_copy(std::string_view source, std::string_view target) {
+  const std::string& bytes = file("copy", source).bytes;
+  const bool same = FileExists(target) && file("copy onto", target).bytes == bytes;
+  return {same ? CopyOutcome::kUnchanged : CopyOutcome::kWritten, bytes.size()};
+}
+
 CopyOutcome MemoryFileSystem::copy_file(std::string_view source, std::string_view target,
                                         Durability durability) {
-  const std::string bytes = file("copy", source).bytes;
-  if (FileExists(target) && file("copy onto", target).bytes == bytes) return CopyOutcome::kUnchanged;
-  replace_file(target, bytes, durability);
-  return CopyOutcome::kWritten;
+  const CopyOutcome outcome = foresee_copy(source, target).outcome;
+  if (outcome == CopyOutcome::kWritten)
+    replace_file(target, std::string(file("copy", source).bytes), durability);
+  return outcome;
 }
 
 void MemoryFileSystem::remove_file(std::string_view path) {

@@ -25,6 +25,9 @@ class MemoryFileSystem : public FileSystem {
   void replace_file(std::string_view path, std::string_view bytes, Durability durability) override;
   CopyOutcome copy_file(std::string_view source, std::string_view target, Durability durability) override;
   void remove_file(std::string_view path) override;
+  void foresee(Change, std::string_view) override {}
+  CopyForecast foresee_copy(std::string_view source, std::string_view target) override;
+  std::optional<std::uint64_t> free_room(std::string_view) override { return std::nullopt; }
   void start_program(std::string_view path, std::string_view folder) override;
   FolderLocks lock_folders(const std::vector<std::string>&, std::chrono::milliseconds) override { return {}; }
 

@@ -6,11 +6,13 @@
 
 #include "base/action_error.h"
 #include "base/text.h"
+#include "disk/dry_run_file_system.h"
 #include "disk/file_system.h"
 #include "support/faulty_file_system.h"
 #include "support/left_over.h"
 #include "support/recording_file_system.h"
 #include "support/temporary_folder.h"
+#include "support/tree_of.h"
 
 namespace vorlund {
 namespace {
@@ -19,7 +21,7 @@ using namespace std::string_literals;
 using Names = std::vector<std::string>;
 using Tree = std::map<std::string, std::string>;
 
-enum class Kind { kPlatform, kFaulty, kRecording };
+enum class Kind { kPlatform, kFaulty, kRecording, kDryRun };
 
 /// Whether the operations stand alone or within one action.
 enum class Span { kAlone, kAction };
@@ -31,8 +33,22 @@ class FileSystemContract : public testing::TestWithParam<std::tuple<Kind, Span>>
       double_ = std::make_unique<test::FaultyFileSystem>(*disk_);
     } else if (std::get<Kind>(GetParam()) == Kind::kRecording) {
       double_ = std::make_unique<test::RecordingFileSystem>(*disk_);
+    } else if (is_dry_run()) {
+      double_ = std::make_unique<DryRunFileSystem>(*disk_);
     }
     if (std::get<Span>(GetParam()) == Span::kAction) action_.emplace(files(), [this] { ++pulses_; });
+  }
+
+  static bool is_dry_run() { return std::get<Kind>(GetParam()) == Kind::kDryRun; }
+
+  /// Writes a file behind the file system's back; a dry run, which counts on the disk to stay, begins anew.
+  void write_behind(std::string_view name, std::string_view bytes) {
+    folder_.write(name, bytes);
+    if (!is_dry_run()) return;
+    const bool in_action = action_.has_value();
+    action_.reset();
+    double_ = std::make_unique<DryRunFileSystem>(*disk_);
+    if (in_action) action_.emplace(files(), [this] { ++pulses_; });
   }
 
   FileSystem& files() { return double_ ? *double_ : *disk_; }
@@ -43,6 +59,19 @@ class FileSystemContract : public testing::TestWithParam<std::tuple<Kind, Span>>
     for (const FolderEntry& entry : files().entries(path)) {
       names.push_back(entry.name + (entry.kind == EntryKind::kFolder ? "/" : ""));
     }
+    std::sort(names.begin(), names.end());
+    return names;
+  }
+
+  /// What the file system has made of the folder: on the disk, or, of a dry run, as it tells it.
+  Tree tree() { return is_dry_run() ? test::tree_of(files(), folder_.path()) : folder_.tree(); }
+  std::string read(std::string_view name) {
+    return is_dry_run() ? files().read_file(folder_.path(name)) : folder_.read(name);
+  }
+  Names names(std::string_view name = "") {
+    if (!is_dry_run()) return folder_.names(name);
+    Names names;
+    for (const FolderEntry& entry : files().entries(folder_.path(name))) names.push_back(entry.name);
     std::sort(names.begin(), names.end());
     return names;
   }
@@ -124,7 +153,7 @@ TEST_P(FileSystemContract, NamesThatTheCodePageCannotSpellListAndCopy) {
   folder_.make_folder("Game");
   ASSERT_EQ(listed(folder_.path("Set")), Names{name});
   files().copy_file(folder_.path("Set\\" + name), folder_.path("Game\\" + name), Durability::kCached);
-  EXPECT_EQ(folder_.read("Game\\" + name), "bytes");
+  EXPECT_EQ(read("Game\\" + name), "bytes");
 }
 
 TEST_P(FileSystemContract, AFileIsReadWholeOrUpToALimit) {
@@ -145,7 +174,7 @@ TEST_P(FileSystemContract, AnEmptyFileIsReadAndCopied) {
   EXPECT_EQ(files().open_file(folder_.path("empty"))->size(), 0U);
   EXPECT_EQ(files().copy_file(folder_.path("empty"), folder_.path("copy"), Durability::kCached),
             CopyOutcome::kWritten);
-  EXPECT_EQ(folder_.read("copy"), "");
+  EXPECT_EQ(read("copy"), "");
   EXPECT_EQ(files().copy_file(folder_.path("empty"), folder_.path("copy"), Durability::kCached),
             CopyOutcome::kUnchanged);
 }
@@ -170,18 +199,18 @@ TEST_P(FileSystemContract, AFileIsCreatedAndReplacedWhole) {
   const std::string path = folder_.path("Record.txt");
   for (const Durability durability : {Durability::kCached, Durability::kFlushed}) {
     files().replace_file(path, "a long first content\r\n", durability);
-    EXPECT_EQ(folder_.tree(), (Tree{{"Record.txt", "a long first content\r\n"}}));
+    EXPECT_EQ(tree(), (Tree{{"Record.txt", "a long first content\r\n"}}));
     files().replace_file(path, "short\0"s, durability);
-    EXPECT_EQ(folder_.tree(), (Tree{{"Record.txt", "short\0"s}}));
+    EXPECT_EQ(tree(), (Tree{{"Record.txt", "short\0"s}}));
   }
 }
 
 TEST_P(FileSystemContract, AReplacedFileKeepsTheSpellingOfItsName) {
   folder_.write("PLANES.DAT", "old");
   files().replace_file(folder_.path("Planes.dat"), "new", Durability::kCached);
-  EXPECT_EQ(folder_.tree(), (Tree{{"PLANES.DAT", "new"}}));
+  EXPECT_EQ(tree(), (Tree{{"PLANES.DAT", "new"}}));
   files().replace_file(folder_.path("loadout.dat"), "created", Durability::kFlushed);
-  EXPECT_EQ(folder_.tree(), (Tree{{"PLANES.DAT", "new"}, {"loadout.dat", "created"}}));
+  EXPECT_EQ(tree(), (Tree{{"PLANES.DAT", "new"}, {"loadout.dat", "created"}}));
 }
 
 TEST_P(FileSystemContract, ACopiedFileIsSpelledAsAsked) {
@@ -190,8 +219,8 @@ TEST_P(FileSystemContract, ACopiedFileIsSpelledAsAsked) {
   EXPECT_EQ(files().copy_file(folder_.path("set\\readme.\u00E9t\u00E9"),
                               folder_.path("Game\\Readme.\u00C9t\u00E9"), Durability::kCached),
             CopyOutcome::kWritten);
-  EXPECT_EQ(folder_.names("Game"), Names{"Readme.\u00C9t\u00E9"});
-  EXPECT_EQ(folder_.read("Game\\Readme.\u00C9t\u00E9"), "new");
+  EXPECT_EQ(names("Game"), Names{"Readme.\u00C9t\u00E9"});
+  EXPECT_EQ(read("Game\\Readme.\u00C9t\u00E9"), "new");
 }
 
 TEST_P(FileSystemContract, AnEqualFileIsNotWrittenButRenamedWhereItsSpellingDiffers) {
@@ -199,10 +228,10 @@ TEST_P(FileSystemContract, AnEqualFileIsNotWrittenButRenamedWhereItsSpellingDiff
   folder_.write("B", "same bytes");
   EXPECT_EQ(files().copy_file(folder_.path("a"), folder_.path("b"), Durability::kCached),
             CopyOutcome::kWritten);
-  EXPECT_EQ(folder_.names(), (Names{"a", "b"}));
+  EXPECT_EQ(names(), (Names{"a", "b"}));
   EXPECT_EQ(files().copy_file(folder_.path("a"), folder_.path("b"), Durability::kFlushed),
             CopyOutcome::kUnchanged);
-  EXPECT_EQ(folder_.tree(), (Tree{{"a", "same bytes"}, {"b", "same bytes"}}));
+  EXPECT_EQ(tree(), (Tree{{"a", "same bytes"}, {"b", "same bytes"}}));
 }
 
 TEST_P(FileSystemContract, SizesFromNothingToSeveralBlocksCopyExactly) {
@@ -211,33 +240,33 @@ TEST_P(FileSystemContract, SizesFromNothingToSeveralBlocksCopyExactly) {
   for (const std::size_t size : kSizes) {
     std::string bytes(size, '\0');
     for (std::size_t at = 0; at < size; ++at) bytes[at] = static_cast<char>(at * 31 + at / 251);
-    folder_.write("source", bytes);
+    write_behind("source", bytes);
     const auto copy = [&] {
       return files().copy_file(folder_.path("source"), folder_.path("target"), Durability::kCached);
     };
     EXPECT_EQ(copy(), CopyOutcome::kWritten) << size;
-    EXPECT_TRUE(folder_.read("target") == bytes) << size;
+    EXPECT_TRUE(read("target") == bytes) << size;
     EXPECT_EQ(copy(), CopyOutcome::kUnchanged) << size;
 
     for (const std::size_t different : {std::size_t{0}, size / 2, size - 1}) {
       std::string other = bytes;
       other[different] = static_cast<char>(~other[different]);
-      folder_.write("target", other);
+      write_behind("target", other);
       EXPECT_EQ(copy(), CopyOutcome::kWritten) << size << ", different at " << different;
-      EXPECT_TRUE(folder_.read("target") == bytes) << size << ", different at " << different;
+      EXPECT_TRUE(read("target") == bytes) << size << ", different at " << different;
     }
   }
   EXPECT_GE(pulses_, std::get<Span>(GetParam()) == Span::kAction ? 10 : 0);
-  EXPECT_EQ(folder_.names(), (Names{"source", "target"}));
+  EXPECT_EQ(names(), (Names{"source", "target"}));
 }
 
 TEST_P(FileSystemContract, ALongerAndAShorterTargetAreReplaced) {
   folder_.write("source", "12345");
   for (const char* old : {"", "1234", "123456", "12345\n"}) {
-    folder_.write("target", old);
+    write_behind("target", old);
     EXPECT_EQ(files().copy_file(folder_.path("source"), folder_.path("target"), Durability::kFlushed),
               CopyOutcome::kWritten);
-    EXPECT_EQ(folder_.read("target"), "12345") << old;
+    EXPECT_EQ(read("target"), "12345") << old;
   }
 }
 
@@ -247,7 +276,7 @@ TEST_P(FileSystemContract, AFileCopiedOntoItselfStays) {
             CopyOutcome::kUnchanged);
   EXPECT_EQ(files().copy_file(folder_.path("File"), folder_.path("FILE"), Durability::kCached),
             CopyOutcome::kWritten);
-  EXPECT_EQ(folder_.tree(), (Tree{{"FILE", "bytes"}}));
+  EXPECT_EQ(tree(), (Tree{{"FILE", "bytes"}}));
 }
 
 TEST_P(FileSystemContract, AFailedCopyLeavesTheTargetAndNoNeighbour) {
@@ -256,7 +285,7 @@ TEST_P(FileSystemContract, AFailedCopyLeavesTheTargetAndNoNeighbour) {
   const auto copy = [&](const char* source, const char* target) {
     files().copy_file(folder_.path(source), folder_.path(target), Durability::kCached);
   };
-  const Tree before = folder_.tree();
+  const Tree before = tree();
   EXPECT_THROW(copy("nothing", "target"), ActionError);
   EXPECT_THROW(copy("folder", "target"), ActionError);
   EXPECT_THROW(copy("target", "folder"), ActionError);
@@ -264,18 +293,18 @@ TEST_P(FileSystemContract, AFailedCopyLeavesTheTargetAndNoNeighbour) {
   EXPECT_THROW(copy("target", "nowhere\\target"), ActionError);
   EXPECT_THROW(copy("target", "target\\below"), ActionError);
   EXPECT_THROW(copy("target", ""), ActionError);
-  EXPECT_EQ(folder_.tree(), before);
+  EXPECT_EQ(tree(), before);
 }
 
 TEST_P(FileSystemContract, AFailedReplacementLeavesEverythingAsItWas) {
   folder_.write("folder\\inside", "x");
-  const Tree before = folder_.tree();
+  const Tree before = tree();
   for (const char* name : {"folder", "FOLDER", "nowhere\\file", "folder\\inside\\file", ""}) {
     EXPECT_THROW(files().replace_file(folder_.path(name), "bytes", Durability::kFlushed), ActionError)
         << name;
   }
   EXPECT_THROW(files().replace_file("", "bytes", Durability::kCached), ActionError);
-  EXPECT_EQ(folder_.tree(), before);
+  EXPECT_EQ(tree(), before);
 }
 
 TEST_P(FileSystemContract, AFolderInAFilesPlaceIsCalledOne) {
@@ -312,7 +341,7 @@ TEST_P(FileSystemContract, AFileIsReadInSteps) {
 TEST_P(FileSystemContract, WhatACrashLeftIsSweptByTheNextWriteInItsFolder) {
   folder_.write(test::left_over_name(), "half of something");
   files().replace_file(folder_.path("target"), "new", Durability::kCached);
-  EXPECT_EQ(folder_.tree(), (Tree{{"target", "new"}}));
+  EXPECT_EQ(tree(), (Tree{{"target", "new"}}));
 }
 
 TEST_P(FileSystemContract, NoFileOfThePlayersIsTakenForALeftOver) {
@@ -331,27 +360,27 @@ TEST_P(FileSystemContract, NoFileOfThePlayersIsTakenForALeftOver) {
   files().replace_file(folder_.path("target"), "new", Durability::kCached);
   files().copy_file(folder_.path("target"), folder_.path("copy"), Durability::kCached);
   expected.insert({{"target", "new"}, {"copy", "new"}});
-  EXPECT_EQ(folder_.tree(), expected);
+  EXPECT_EQ(tree(), expected);
 }
 
 TEST_P(FileSystemContract, AFolderOfTheStagingNameIsGoneRound) {
   folder_.make_folder(staging_name(0));
   files().replace_file(folder_.path("target"), "new", Durability::kCached);
-  EXPECT_EQ(folder_.tree(), (Tree{{staging_name(0) + "/", ""}, {"target", "new"}}));
+  EXPECT_EQ(tree(), (Tree{{staging_name(0) + "/", ""}, {"target", "new"}}));
 }
 
 TEST_P(FileSystemContract, AFileOfTheStagingNameIsWrittenToo) {
   const std::string name = staging_name(0);
   files().replace_file(folder_.path(name), "first", Durability::kCached);
   files().replace_file(folder_.path(to_upper(name)), "second", Durability::kCached);
-  EXPECT_EQ(folder_.tree(), (Tree{{name, "second"}}));
+  EXPECT_EQ(tree(), (Tree{{name, "second"}}));
 }
 
 TEST_P(FileSystemContract, AFileIsRemovedInAnySpelling) {
   folder_.write("Career.SVE", "x");
   folder_.write("other", "x");
   files().remove_file(folder_.path("career.sve"));
-  EXPECT_EQ(folder_.names(), Names{"other"});
+  EXPECT_EQ(names(), Names{"other"});
   EXPECT_FALSE(files().FileExists(folder_.path("Career.SVE")));
 }
 
@@ -360,7 +389,7 @@ TEST_P(FileSystemContract, RemovingWhatIsNotAFileIsAnError) {
   for (const char* name : {"nothing", "folder", "", "nowhere\\file"}) {
     EXPECT_THROW(files().remove_file(folder_.path(name)), ActionError) << name;
   }
-  EXPECT_EQ(folder_.names(), Names{"folder"});
+  EXPECT_EQ(names(), Names{"folder"});
 }
 
 TEST_P(FileSystemContract, WhatWasWrittenAndRemovedIsSeenAtOnceInAnySpelling) {
@@ -378,7 +407,7 @@ TEST_P(FileSystemContract, WhatWasWrittenAndRemovedIsSeenAtOnceInAnySpelling) {
   EXPECT_FALSE(exists("new.DAT"));
   files().replace_file(folder_.path("NEW.dat"), "3", Durability::kCached);
   EXPECT_EQ(files().read_file(folder_.path("new.dat")), "3");
-  EXPECT_EQ(folder_.names(), (Names{"Copy.dat", "NEW.dat"}));
+  EXPECT_EQ(names(), (Names{"Copy.dat", "NEW.dat"}));
 }
 
 TEST_P(FileSystemContract, DoubledBackslashesAreOne) {
@@ -402,7 +431,7 @@ TEST_P(FileSystemContract, PathsPast260CharactersWork) {
             CopyOutcome::kWritten);
   EXPECT_EQ(listed(folder_.path(deep)), (Names{"Copy.dat", "File.dat"}));
   files().remove_file(path);
-  EXPECT_EQ(folder_.names(deep), Names{"Copy.dat"});
+  EXPECT_EQ(names(deep), Names{"Copy.dat"});
 }
 
 TEST_P(FileSystemContract, TheCurrentFolderIsAFolderWithoutASeparatorAtItsEnd) {
@@ -446,21 +475,23 @@ TEST_P(FileSystemContract, ManyFoldersInOneActionWorkAlike) {
       files().replace_file(folder_.path("group " + number + "\\file"), number, Durability::kCached);
     }
   }
-  EXPECT_EQ(folder_.names("Game").size(), 60U);
-  EXPECT_EQ(folder_.read("Game\\File59"), "59");
-  EXPECT_EQ(folder_.names("Group 59"), Names{"File"});
+  EXPECT_EQ(names("Game").size(), 60U);
+  EXPECT_EQ(read("Game\\File59"), "59");
+  EXPECT_EQ(names("Group 59"), Names{"File"});
 }
 
 std::string name_of(const testing::TestParamInfo<std::tuple<Kind, Span>>& info) {
   const auto [kind, span] = info.param;
   const std::string_view name = kind == Kind::kPlatform ? "Platform"
                                 : kind == Kind::kFaulty ? "Faulty"
+                                : kind == Kind::kDryRun ? "DryRun"
                                                         : "Recording";
   return std::string(name) + (span == Span::kAlone ? "Alone" : "InAnAction");
 }
 
 INSTANTIATE_TEST_SUITE_P(Every, FileSystemContract,
-                         testing::Combine(testing::Values(Kind::kPlatform, Kind::kFaulty, Kind::kRecording),
+                         testing::Combine(testing::Values(Kind::kPlatform, Kind::kFaulty, Kind::kRecording,
+                                                          Kind::kDryRun),
                                           testing::Values(Span::kAlone, Span::kAction)),
                          name_of);
 

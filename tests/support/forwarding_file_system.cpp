@@ -74,6 +74,20 @@ void ForwardingFileSystem::remove_file(std::string_view path) {
   inner_.remove_file(path);
 }
 
+void ForwardingFileSystem::foresee(Change change, std::string_view path) {
+  before({Effect::kReading, words("foresee", path), {}, {}, {}});
+  inner_.foresee(change, path);
+}
+
+CopyForecast ForwardingFileSystem::foresee_copy(std::string_view source, std::string_view target) {
+  before({Effect::kReading, words("foresee copy", source).append(" -> ").append(target), {}, {}, {}});
+  return inner_.foresee_copy(source, target);
+}
+
+std::optional<std::uint64_t> ForwardingFileSystem::free_room(std::string_view folder) {
+  return inner_.free_room(folder);
+}
+
 void ForwardingFileSystem::start_program(std::string_view path, std::string_view folder) {
   before({Effect::kChanging, words("start", path).append(" in ").append(folder), {}, {}, {}});
   inner_.start_program(path, folder);

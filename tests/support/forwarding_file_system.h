@@ -26,6 +26,9 @@ class ForwardingFileSystem : public FileSystem {
   void replace_file(std::string_view path, std::string_view bytes, Durability durability) override;
   CopyOutcome copy_file(std::string_view source, std::string_view target, Durability durability) override;
   void remove_file(std::string_view path) override;
+  void foresee(Change change, std::string_view path) override;
+  CopyForecast foresee_copy(std::string_view source, std::string_view target) override;
+  std::optional<std::uint64_t> free_room(std::string_view folder) override;
   void start_program(std::string_view path, std::string_view folder) override;
   FolderLocks lock_folders(const std::vector<std::string>& folders, std::chrono::milliseconds wait) override;
 

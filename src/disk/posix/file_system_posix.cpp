@@ -1,6 +1,7 @@
 // The one door to the disk on POSIX systems.
 #include <dirent.h>
 #include <fcntl.h>
+#include <sys/statvfs.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -21,6 +22,8 @@ namespace vorlund {
 
 namespace {
 
+constexpr std::string_view kDelete = "delete";
+
 class PosixFileSystem final : public FileSystem {
  public:
   std::string current_folder() override;
@@ -34,6 +37,9 @@ class PosixFileSystem final : public FileSystem {
   void replace_file(std::string_view path, std::string_view bytes, Durability durability) override;
   CopyOutcome copy_file(std::string_view source, std::string_view target, Durability durability) override;
   void remove_file(std::string_view path) override;
+  void foresee(Change change, std::string_view path) override;
+  CopyForecast foresee_copy(std::string_view source, std::string_view target) override;
+  std::optional<std::uint64_t> free_room(std::string_view folder) override;
   void start_program(std::string_view path, std::string_view folder) override;
   FolderLocks lock_folders(const std::vector<std::string>& folders, std::chrono::milliseconds wait) override;
 
@@ -67,6 +73,10 @@ class PosixFileSystem final : public FileSystem {
   FileHandle open_folder(Place& place, FileHandle (*open)(int folder, const char* name));
   PosixSource open_source(std::string_view path);
   PosixTarget open_target(std::string_view path, Spelling spelling);
+  /// The file that is to be deleted, which may be.
+  Place removable(std::string_view path);
+  /// Takes up the source, and says whether the target, which is looked at, holds its bytes.
+  bool holds(PosixTarget& target, const PosixSource& source);
 
   PosixFolders folders_;
   PosixContent content_;
@@ -267,18 +277,19 @@ void PosixFileSystem::replace_file(std::string_view path, std::string_view bytes
   target.finish(durability);
 }
 
+bool PosixFileSystem::holds(PosixTarget& target, const PosixSource& source) {
+  content_.take(source);
+  if (target.readable() >= 0 && content_.known_same(source, target.readable())) return true;
+  target.look();
+  return target.readable() >= 0 && target.status().st_size == source.status.st_size &&
+         content_.same_as(source, target.readable());
+}
+
 CopyOutcome PosixFileSystem::copy_file(std::string_view source_path, std::string_view target_path,
                                        Durability durability) {
   const PosixSource source = open_source(source_path);
   PosixTarget target = open_target(target_path, Spelling::kAsAsked);
-  content_.take(source);
-  if (target.readable() >= 0 && content_.known_same(source, target.readable())) {
-    return target.keep(durability) ? CopyOutcome::kUnchanged : CopyOutcome::kWritten;
-  }
-  target.look();
-
-  if (target.readable() >= 0 && target.status().st_size == source.status.st_size &&
-      content_.same_as(source, target.readable())) {
+  if (holds(target, source)) {
     return target.keep(durability) ? CopyOutcome::kUnchanged : CopyOutcome::kWritten;
   }
   content_.write_to(source, target.begin(staging_), target_path);
@@ -290,17 +301,47 @@ CopyOutcome PosixFileSystem::copy_file(std::string_view source_path, std::string
   return CopyOutcome::kWritten;
 }
 
-void PosixFileSystem::remove_file(std::string_view path) {
-  constexpr std::string_view kAttempted = "delete";
+CopyForecast PosixFileSystem::foresee_copy(std::string_view source_path, std::string_view target_path) {
+  const PosixSource source = open_source(source_path);
+  PosixTarget target = open_target(target_path, Spelling::kAsAsked);
+  const bool same = holds(target, source);
+  if (same && target.is_as_asked()) return {CopyOutcome::kUnchanged, source.size()};
+  target.foresee(same ? PosixTarget::Writing::kSpelling : PosixTarget::Writing::kBytes);
+  return {CopyOutcome::kWritten, source.size()};
+}
+
+PosixFileSystem::Place PosixFileSystem::removable(std::string_view path) {
   Place place = place_of(path, EntryKind::kFile);
   struct stat status {};
   const bool found = with_spelling(place, [&status](int folder, const char* name) {
     return look_at(folder, name, status, AT_SYMLINK_NOFOLLOW);
   });
-  if (!found) throw_system_error(kAttempted, path);
-  refuse_read_only(status, kAttempted, path);
-  if (::unlinkat(place.folder->descriptor(), place.name.c_str(), 0) != 0)
-    throw_system_error(kAttempted, path);
+  if (!found) throw_system_error(kDelete, path);
+  refuse_read_only(status, kDelete, path);
+  if (S_ISDIR(status.st_mode)) throw ActionError(kDelete, path, kIsFolder);
+  return place;
+}
+
+void PosixFileSystem::foresee(Change change, std::string_view path) {
+  if (change == Change::kRemove) {
+    if (!removable(path).folder->may_be_changed()) throw_system_error(kDelete, path);
+    return;
+  }
+  const Spelling spelling = change == Change::kCopy ? Spelling::kAsAsked : Spelling::kAsItStands;
+  open_target(path, spelling).foresee(PosixTarget::Writing::kBytes);
+}
+
+std::optional<std::uint64_t> PosixFileSystem::free_room(std::string_view folder) {
+  Place place = place_of(folder, EntryKind::kFolder);
+  const FileHandle handle = open_folder(place, open_folder_at);
+  struct statvfs room {};
+  if (!handle.is_open() || ::fstatvfs(handle.descriptor(), &room) != 0) return std::nullopt;
+  return std::uint64_t{room.f_bavail} * room.f_frsize;
+}
+
+void PosixFileSystem::remove_file(std::string_view path) {
+  const Place place = removable(path);
+  if (::unlinkat(place.folder->descriptor(), place.name.c_str(), 0) != 0) throw_system_error(kDelete, path);
   place.folder->name_removed(place.name);
 }
 

@@ -86,6 +86,10 @@ bool PosixFolder::takes_files_of(PosixFolder& other) {
          here->st_gid == there->st_gid && here->st_mode == there->st_mode;
 }
 
+bool PosixFolder::may_be_changed() const {
+  return ::faccessat(descriptor(), ".", W_OK | X_OK, AT_EACCESS) == 0;
+}
+
 void PosixFolder::Names::add(std::string_view name) {
   if (!first.emplace(name).second) further.emplace(name);
 }

@@ -53,6 +53,9 @@ class PosixFolder {
   /// are on one disk, and have the same group and permissions.
   bool takes_files_of(PosixFolder& other);
 
+  /// True where names can be added and removed; else false, with errno.
+  bool may_be_changed() const;
+
   /// Every spelling of the name; none, with errno, when the folder can't be read.
   std::optional<Spellings> spellings(std::string_view name);
 

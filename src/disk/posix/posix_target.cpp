@@ -99,9 +99,9 @@ void PosixTarget::look_at(const std::string& spelling) {
 }
 
 bool PosixTarget::keep(Durability durability) {
-  const bool as_asked = !looked_ || (current_ == name_ && others_.empty());
+  const bool as_asked = is_as_asked();
   if (!as_asked) {
-    refuse_read_only_others();
+    refuse_read_only_files(Writing::kSpelling);
     settle_spelling();
   }
   if (durability == Durability::kFlushed) {
@@ -114,8 +114,7 @@ bool PosixTarget::keep(Durability durability) {
 int PosixTarget::begin(const std::shared_ptr<PosixFolder>& staging) {
   drop();
   look();
-  if (is_there()) refuse_read_only(status_, "write", path_);
-  refuse_read_only_others();
+  refuse_read_only_files(Writing::kBytes);
   existing_.close();
   const bool replaces = is_there() && S_ISREG(status_.st_mode);
   const mode_t mode = replaces ? status_.st_mode & kPermissions : kUsualPermissions;
@@ -178,7 +177,17 @@ void PosixTarget::flush_folder() const {
     fail("flush the folder of");
 }
 
-void PosixTarget::refuse_read_only_others() const {
+void PosixTarget::foresee(Writing writing) {
+  look();
+  refuse_read_only_files(writing);
+  if (!folder_->may_be_changed()) fail();
+  struct stat status {};
+  if (!vorlund::look_at(folder_->descriptor(), name_.c_str(), status, AT_SYMLINK_NOFOLLOW) && errno != ENOENT)
+    fail();
+}
+
+void PosixTarget::refuse_read_only_files(Writing writing) const {
+  if (is_there() && writing == Writing::kBytes) refuse_read_only(status_, "write", path_);
   for (const std::string& other : others_) {
     struct stat status {};
     if (vorlund::look_at(folder_->descriptor(), other.c_str(), status, AT_SYMLINK_NOFOLLOW)) {

@@ -38,6 +38,15 @@ class PosixTarget {
   /// What is there; meaningful after `look`, where `readable` is.
   const struct stat& status() const { return status_; }
 
+  /// True when the file that is there is spelled as asked, and has no other spelling.
+  bool is_as_asked() const { return !looked_ || (current_ == name_ && others_.empty()); }
+
+  /// How much of the file is to be written.
+  enum class Writing { kSpelling, kBytes };
+
+  /// Fails as `keep` or `begin` and `finish` would for what can be told beforehand.
+  void foresee(Writing writing);
+
   /// Keeps the file that is there, spelled as asked. True when it was spelled so and there was no other.
   bool keep(Durability durability);
 
@@ -55,7 +64,7 @@ class PosixTarget {
   bool is_there() const { return !current_.empty(); }
   void look_at(const std::string& spelling);
   void look_for_spellings();
-  void refuse_read_only_others() const;
+  void refuse_read_only_files(Writing writing) const;
   bool create(const std::shared_ptr<PosixFolder>& folder, mode_t mode);
   void drop();
   bool names_written() const;

@@ -17,6 +17,8 @@ namespace vorlund {
 
 namespace {
 
+constexpr std::string_view kDelete = "delete";
+
 /// Attributes of what a path leads to, links followed; none, with the system's error, on failure.
 std::optional<DWORD> attributes_of(const std::wstring& path) {
   const DWORD attributes = GetFileAttributesW(path.c_str());
@@ -64,6 +66,9 @@ class WindowsFileSystem final : public FileSystem {
   void replace_file(std::string_view path, std::string_view bytes, Durability durability) override;
   CopyOutcome copy_file(std::string_view source, std::string_view target, Durability durability) override;
   void remove_file(std::string_view path) override;
+  void foresee(Change change, std::string_view path) override;
+  CopyForecast foresee_copy(std::string_view source, std::string_view target) override;
+  std::optional<std::uint64_t> free_room(std::string_view folder) override;
   void start_program(std::string_view path, std::string_view folder) override;
   FolderLocks lock_folders(const std::vector<std::string>& folders, std::chrono::milliseconds wait) override;
 
@@ -81,6 +86,10 @@ class WindowsFileSystem final : public FileSystem {
   /// After a look that failed: returns where nothing is there; where there is no right to look as well, and
   /// that is noted. Otherwise the failure is an error.
   void take_for_missing(std::string_view path);
+  /// True where the target holds the source's bytes.
+  bool holds(const WindowsTarget& target, const WindowsSource& source);
+  /// Path of the file that is to be deleted, which may be.
+  static std::wstring removable(std::string_view path);
 
   WindowsPatience patience_;
   WindowsContent content_{patience_};
@@ -194,29 +203,63 @@ void WindowsFileSystem::replace_file(std::string_view path, std::string_view byt
   target.finish(durability);
 }
 
+bool WindowsFileSystem::holds(const WindowsTarget& target, const WindowsSource& source) {
+  const WindowsHandle existing = target.open_to_compare(source.size());
+  return existing.is_open() && content_.same(source, existing.get());
+}
+
 CopyOutcome WindowsFileSystem::copy_file(std::string_view source_path, std::string_view target_path,
                                          Durability durability) {
   const WindowsSource source(source_path, patience_);
   WindowsTarget target(target_path, Spelling::kAsAsked, patience_);
-  {
-    const WindowsHandle existing = target.open_to_compare(source.size());
-    if (existing.is_open() && content_.same(source, existing.get())) {
-      return target.keep(durability) ? CopyOutcome::kUnchanged : CopyOutcome::kWritten;
-    }
+  if (holds(target, source)) {
+    return target.keep(durability) ? CopyOutcome::kUnchanged : CopyOutcome::kWritten;
   }
   content_.copy(source, target.begin(), target_path);
   target.finish(durability);
   return CopyOutcome::kWritten;
 }
 
-void WindowsFileSystem::remove_file(std::string_view path) {
-  constexpr std::string_view kAttempted = "delete";
+CopyForecast WindowsFileSystem::foresee_copy(std::string_view source_path, std::string_view target_path) {
+  const WindowsSource source(source_path, patience_);
+  const WindowsTarget target(target_path, Spelling::kAsAsked, patience_);
+  const bool same = holds(target, source);
+  if (same && target.is_as_asked()) return {CopyOutcome::kUnchanged, source.size()};
+  target.foresee(same ? WindowsTarget::Writing::kSpelling : WindowsTarget::Writing::kBytes);
+  return {CopyOutcome::kWritten, source.size()};
+}
+
+void WindowsFileSystem::foresee(Change change, std::string_view path) {
+  if (change == Change::kRemove) {
+    // Asking for the right to delete a file deletes nothing.
+    const std::wstring spelled = removable(path);
+    if (!open_existing(spelled, DELETE, FILE_FLAG_OPEN_REPARSE_POINT).is_open())
+      throw_windows_error(kDelete, path, likely_cause(GetLastError(), spelled));
+    return;
+  }
+  const Spelling spelling = change == Change::kCopy ? Spelling::kAsAsked : Spelling::kAsItStands;
+  WindowsTarget(path, spelling, patience_).foresee(WindowsTarget::Writing::kBytes);
+}
+
+std::optional<std::uint64_t> WindowsFileSystem::free_room(std::string_view folder) {
+  ULARGE_INTEGER room;
+  if (GetDiskFreeSpaceExW(long_path(folder, EntryKind::kFolder).c_str(), &room, nullptr, nullptr) == 0)
+    return std::nullopt;
+  return room.QuadPart;
+}
+
+std::wstring WindowsFileSystem::removable(std::string_view path) {
   const std::wstring spelled = long_path(path, EntryKind::kFile);
   const DWORD attributes = GetFileAttributesW(spelled.c_str());
-  if (attributes == INVALID_FILE_ATTRIBUTES) throw_windows_error(kAttempted, path);
-  refuse_read_only(attributes, kAttempted, path);
+  if (attributes == INVALID_FILE_ATTRIBUTES) throw_windows_error(kDelete, path);
+  refuse_read_only(attributes, kDelete, path);
+  return spelled;
+}
+
+void WindowsFileSystem::remove_file(std::string_view path) {
+  const std::wstring spelled = removable(path);
   if (!patience_.insist_on_change([&] { return DeleteFileW(spelled.c_str()) != 0; })) {
-    throw_windows_error(kAttempted, path, likely_cause(GetLastError(), spelled));
+    throw_windows_error(kDelete, path, likely_cause(GetLastError(), spelled));
   }
 }
 

@@ -94,6 +94,14 @@ bool WindowsTarget::keep(Durability durability) {
   return as_asked;
 }
 
+void WindowsTarget::foresee(Writing writing) const {
+  if (existing_ && writing == Writing::kBytes) refuse_read_only(existing_->dwFileAttributes, "write", path_);
+  // Asking for the right to add a file adds none.
+  if (open_existing(folder_, FILE_ADD_FILE, FILE_FLAG_BACKUP_SEMANTICS).is_open()) return;
+  if (GetLastError() == ERROR_ACCESS_DENIED) throw ActionError("write", path_, kNoRight);
+  fail();
+}
+
 HANDLE WindowsTarget::begin() {
   if (existing_) refuse_read_only(existing_->dwFileAttributes, "write", path_);
   const DWORD kept = existing_ ? existing_->dwFileAttributes & kKeptAttributes : 0;

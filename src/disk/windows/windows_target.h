@@ -30,6 +30,15 @@ class WindowsTarget {
   /// The file that is there, opened for reading, when it is no link and has that size; else not open.
   WindowsHandle open_to_compare(std::uint64_t size) const;
 
+  /// True when the file that is there is spelled as asked.
+  bool is_as_asked() const { return !spelled_otherwise(); }
+
+  /// How much of the file is to be written.
+  enum class Writing { kSpelling, kBytes };
+
+  /// Fails as `keep` or `begin` and `finish` would for what can be told beforehand.
+  void foresee(Writing writing) const;
+
   /// Keeps the file that is there, spelled as asked. True when it was spelled so. One that is marked
   /// read-only can't be flushed and counts as being on the disk.
   bool keep(Durability durability);

@@ -6,6 +6,7 @@
 #include <functional>
 #include <limits>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -24,6 +25,19 @@ enum class Durability {
 enum class CopyOutcome {
   kWritten,    ///< the target was created or replaced
   kUnchanged,  ///< the target already held exactly the source's bytes, under exactly the asked name
+};
+
+/// What copying a file would come to.
+struct CopyForecast {
+  CopyOutcome outcome = CopyOutcome::kWritten;
+  std::uint64_t size = 0;  ///< of the source, in bytes
+};
+
+/// What is to be done to a file.
+enum class Change {
+  kReplace,  ///< as FileSystem::replace_file does it
+  kCopy,     ///< as FileSystem::copy_file does it to its target
+  kRemove,   ///< as FileSystem::remove_file does it
 };
 
 enum class EntryKind { kFile, kFolder };
@@ -114,6 +128,17 @@ class FileSystem {
 
   /// Deletes the file.
   virtual void remove_file(std::string_view path) = 0;
+
+  /// Fails as the change would for what can be told beforehand: the name, the kind of what stands there, the
+  /// want of a right. Writes nothing. What only the change itself can meet, such as a failing or full disk,
+  /// is not foretold.
+  virtual void foresee(Change change, std::string_view path) = 0;
+
+  /// What copy_file would come to, told without writing anything; fails as `foresee` does.
+  virtual CopyForecast foresee_copy(std::string_view source, std::string_view target) = 0;
+
+  /// Bytes that this user can still write on the folder's disk; none where the disk does not say.
+  virtual std::optional<std::uint64_t> free_room(std::string_view folder) = 0;
 
   /// Starts a program in a normal, focused window with `folder` as its current folder and does not wait for
   /// it. On POSIX a Windows program (one that begins with "MZ") is started through Wine.
