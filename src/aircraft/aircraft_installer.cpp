@@ -31,7 +31,7 @@ class Installation {
  public:
   Installation(const GameFolder& game, Status& status, PlaneTable& table, PilotNames& names,
                PictureMenu& menu)
-      : game_(game), table_(table), names_(names), menu_(menu), copier_(game, status) {}
+      : game_(game), status_(status), table_(table), names_(names), menu_(menu), copier_(game, status) {}
 
   AircraftSummary run() {
     look_ahead();
@@ -41,9 +41,11 @@ class Installation {
     write_records();
     write_loadouts();
     for (const int row : seen_.slots) {
+      status_.row(row);
       copy_flight_model(row);
       copy_all(skin_folder(row));
     }
+    status_.row(0);
     write_menus();
     summary_.slots = seen_.slots.size();
     summary_.copied = copier_.copied();
@@ -162,6 +164,7 @@ class Installation {
   }
 
   const GameFolder& game_;
+  Status& status_;
   PlaneTable& table_;
   PilotNames& names_;
   PictureMenu& menu_;

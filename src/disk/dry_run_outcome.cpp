@@ -9,11 +9,14 @@
 
 namespace vorlund {
 
-std::vector<ForeseenFile> DryRunFileSystem::foreseen() {
+std::vector<ForeseenFile> DryRunFileSystem::foreseen(const Pulse& pulse) {
   std::vector<ForeseenFile> files;
   for (Folder& folder : folders_) {
     const auto first = static_cast<std::ptrdiff_t>(files.size());
-    for (const auto& [key, writes] : folder.writes) add_foreseen(folder, key, files);
+    for (const auto& [key, writes] : folder.writes) {
+      if (pulse) pulse();
+      add_foreseen(folder, key, files);
+    }
     for (const auto& [key, group] : folder.changed) {
       if (!folder.writes.contains(key)) add_foreseen(folder, key, files);
     }

@@ -20,11 +20,12 @@ namespace {
 class Installation {
  public:
   Installation(const GameFolder& game, Status& status, const GameTable& table)
-      : game_(game), table_(table), copier_(game, status) {}
+      : game_(game), status_(status), table_(table), copier_(game, status) {}
 
   GameSetSummary run() {
     look_ahead();
     for (const Row& row : rows_) install_row(row);
+    status_.row(0);
     summary_.copied = copier_.copied();
     summary_.unchanged = copier_.unchanged();
     return summary_;
@@ -33,6 +34,7 @@ class Installation {
  private:
   /// A row that names a folder.
   struct Row {
+    int index;                         ///< in the table
     std::string name;                  ///< group, backslash, folder name
     std::string folder;                ///< path of the folder
     std::optional<ListedAhead> files;  ///< none where there is no such folder
@@ -44,6 +46,7 @@ class Installation {
       const std::string& folder_name = table_.cell(index, GameTable::kFolder);
       if (folder_name.empty()) continue;
       Row row;
+      row.index = index;
       row.name = group + "\\" + folder_name;
       row.folder = game_.path(kGameStore) + "\\" + row.name;
       if (stays_below(group) && stays_below(folder_name) && game_.files.FolderExists(row.folder)) {
@@ -60,6 +63,7 @@ class Installation {
       return;
     }
     ++summary_.folders;
+    status_.row(row.index);
     for (const std::string& name : row.files->names()) {
       copier_.reach(name);
       install_file(row.folder + "\\" + name, name);
@@ -71,10 +75,10 @@ class Installation {
       case SetFileUse::kGameDirectory:
         copier_.copy(source, game_.path("\\") + name);
         break;
-      case SetFileUse::kSavedata:
+      case SetFileUse::kSavedataFolder:
         copier_.copy(source, game_.path(kSavedata) + "\\" + name);
         break;
-      case SetFileUse::kMusic:
+      case SetFileUse::kMusicFolder:
         copier_.copy(source, game_.path(kMusic) + "\\" + name);
         break;
       case SetFileUse::kPatch:
@@ -90,11 +94,12 @@ class Installation {
       ++summary_.patches_passed;
       return;
     }
-    install_loader_patch(game_, source);
+    install_loader_patch(game_, status_, source);
     ++summary_.patches;
   }
 
   const GameFolder& game_;
+  Status& status_;
   const GameTable& table_;
   Copier copier_;
   std::vector<Row> rows_;
@@ -111,8 +116,8 @@ SetFileUse use_of_set_file(std::string_view name) {
   const bool stays = std::any_of(kStayingEndings.begin(), kStayingEndings.end(),
                                  [&](std::string_view ending) { return upper.ends_with(ending); });
   if (stays || upper == "LOADOUTOFFSETS" || upper.starts_with("ECA")) return SetFileUse::kStays;
-  if (upper.ends_with(".MSN") || upper.ends_with(".SVE")) return SetFileUse::kSavedata;
-  if (upper.ends_with(".BGM")) return SetFileUse::kMusic;
+  if (upper.ends_with(".MSN") || upper.ends_with(".SVE")) return SetFileUse::kSavedataFolder;
+  if (upper.ends_with(".BGM")) return SetFileUse::kMusicFolder;
   return SetFileUse::kGameDirectory;
 }
 

@@ -24,7 +24,7 @@ std::size_t three_byte_number(const char* bytes) {
 
 }  // namespace
 
-void apply_loader_patch(FileReader& patch, PatchedBytes& executable) {
+void apply_loader_patch(FileReader& patch, Status& status, PatchedBytes& executable) {
   std::array<char, kRecordHeader> header{};
   std::string run;
   while (patch.read(header.data(), header.size()) == header.size()) {
@@ -40,16 +40,17 @@ void apply_loader_patch(FileReader& patch, PatchedBytes& executable) {
       if (got < run.size() - done) return;
     }
     executable.put(first, run);
+    status.patched(first, run);
   }
 }
 
-void install_loader_patch(const GameFolder& game, std::string_view patch_path) {
+void install_loader_patch(const GameFolder& game, Status& status, std::string_view patch_path) {
   const std::unique_ptr<FileReader> patch = game.files.open_file(patch_path);
   PatchedFile executable(game.files, game.path(kGameProgram));
   executable.patch([&] {
     PatchedBytes& bytes = executable.open();
     try {
-      apply_loader_patch(*patch, bytes);
+      apply_loader_patch(*patch, status, bytes);
     } catch (...) {
       bytes.revert();  // a patch that can't be read to its end is not applied at all
       throw;

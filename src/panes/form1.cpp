@@ -14,6 +14,7 @@
 #include "gamesets/clean_up.h"
 #include "gamesets/game_record.h"
 #include "panes/installed_sets.h"
+#include "panes/set_actions.h"
 
 namespace vorlund {
 
@@ -51,7 +52,7 @@ void Form1::Form_Load() {
   const FileSystem::Action action(files);
   desk.directory.start();
   const GameFolder folder = desk.game();
-  const FolderLocks locks = files.lock_folders(written_folders(), kStartWaits);
+  const FolderLocks locks = files.lock_folders(written_folders(folder, game.G2), kStartWaits);
   selection.Frame3.place.left = 0;
   selection.Frame3.place.top = 0;
   plane.List2.items.clear();
@@ -248,19 +249,9 @@ void Form1::choose_possible_skin() {
   browser.apply_matched_skin();
 }
 
-std::vector<std::string> Form1::written_folders() const {
-  std::vector<std::string> folders;
-  for (const std::string_view name :
-       {std::string_view(), kSavedata, kMusic, kStore, kSkinStore, kGameSetFiles, kPlaneSetFiles}) {
-    folders.push_back(desk.game().path(name));
-  }
-  const std::string home = careers_home_name(game.G2);
-  if (stays_below(home)) folders.push_back(desk.game().path(kGameStore) + "\\" + home);
-  return folders;
-}
-
 void Form1::act(const std::function<void()>& action) {
-  const FolderLocks locks = desk.files.lock_folders(written_folders(), std::chrono::milliseconds(0));
+  const FolderLocks locks =
+      desk.files.lock_folders(written_folders(desk.game(), game.G2), std::chrono::milliseconds(0));
   if (!locks.in_use().empty()) {
     desk.say("Nothing was done: another program is at work in \"" + locks.in_use() + "\"");
     return;
@@ -296,13 +287,10 @@ void Form1::change_tables(const std::function<void()>& change) {
 void Form1::clean_up() {
   desk.status.repaint();
   const GameFolder folder = desk.game();
-  const CleanUpSummary summary = clean_game_directory(folder, desk.status, game.G2);
+  const CleanUpSummary summary = clean_up_sets(folder, desk.status, game.G2, plane.G1);
   SavDatFile.path = folder.path(kSavedata);
   SavDatFile.refresh(desk.files);
-  game.G2.clear_folders();
-  SaveGS(folder, game.G2);
-  plane.empty();
-  SavePS(folder, plane.G1);
+  plane.show_emptied();
   save_pane.hide();
   desk.labels.Label2.visible = false;
   selection.remove_group_labels();

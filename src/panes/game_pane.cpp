@@ -1,18 +1,16 @@
 // Verbs of the game pane.
 #include "panes/game_pane.h"
 
-#include "gamesets/game_installer.h"
 #include "gamesets/game_record.h"
+#include "panes/set_actions.h"
 
 namespace vorlund {
 
 void GamePane::install() {
   const Working working(desk_, GameLoad);
-  const GameFolder game = desk_.game();
-  const GameSetSummary summary = install_game_set(game, desk_.status, G2);
+  const GameSetSummary summary = process_game_set(desk_.game(), desk_.status, G2);
   GameFrame.visible = false;
   desk_.labels.Label2.visible = true;
-  SaveGS(game, G2);
   desk_.say(summary.text());
 }
 

@@ -1,8 +1,8 @@
 // Verbs of the aircraft pane.
 #include "panes/plane_pane.h"
 
-#include "aircraft/aircraft_installer.h"
 #include "aircraft/plane_record.h"
+#include "panes/set_actions.h"
 
 namespace vorlund {
 
@@ -22,9 +22,7 @@ void PlanePane::set_option(PlaneOption option) {
 void PlanePane::install(PictureMenu& menu) {
   const Working working(desk_, Label8);
   Frame1.visible = false;
-  const GameFolder game = desk_.game();
-  const AircraftSummary summary = install_aircraft_set(game, desk_.status, G1, pilot_names, menu);
-  SavePS(game, G1);
+  const AircraftSummary summary = process_aircraft_set(desk_.game(), desk_.status, G1, pilot_names, menu);
   refresh();
   desk_.say(summary.text());
 }
@@ -69,8 +67,7 @@ void PlanePane::load(std::string_view path) {
   refresh();
 }
 
-void PlanePane::empty() {
-  G1.clear_slots();
+void PlanePane::show_emptied() {
   for (Label& label : Label25) label.caption.clear();
   refresh();
 }

@@ -88,7 +88,7 @@ TEST_F(GameInstaller, AFileThatOneEndingKeepsIsNotCopiedWhereAnotherWouldSendIt)
   EXPECT_EQ(use_of_set_file("ECAmission.MSN"), SetFileUse::kStays);
   EXPECT_EQ(use_of_set_file("eca.LDR"), SetFileUse::kPatch);
   EXPECT_EQ(use_of_set_file("x.ldr"), SetFileUse::kPatch);
-  EXPECT_EQ(use_of_set_file(".sve"), SetFileUse::kSavedata);
+  EXPECT_EQ(use_of_set_file(".sve"), SetFileUse::kSavedataFolder);
   EXPECT_EQ(use_of_set_file("sve"), SetFileUse::kGameDirectory);
   EXPECT_EQ(use_of_set_file("eaw.exe"), SetFileUse::kGameDirectory);
 }

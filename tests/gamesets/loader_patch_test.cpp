@@ -22,7 +22,8 @@ using namespace std::string_literals;
 std::string patched(std::string_view executable, std::string_view patch) {
   PatchedBytes bytes{std::string(executable)};
   test::TextReader reader(patch);
-  apply_loader_patch(reader, bytes);
+  Status unseen;
+  apply_loader_patch(reader, unseen, bytes);
   return bytes.bytes();
 }
 
@@ -91,7 +92,8 @@ TEST(LoaderPatch, TakesAPatchFileOfAnyLengthRecordByRecord) {
   ASSERT_GT(patch.size(), 20U << 20);
   CountingReader reader(patch);
   PatchedBytes executable("MZ..");
-  apply_loader_patch(reader, executable);
+  Status unseen;
+  apply_loader_patch(reader, unseen, executable);
   EXPECT_EQ(executable.bytes(), std::string("M") + static_cast<char>('a' + (kRecords - 1) % 26) + "Z.");
   EXPECT_LE(reader.largest, 1U << 20);
 }
@@ -108,7 +110,8 @@ TEST(LoaderPatch, AnExecutableThatDoesNotFitIntoMemoryIsAnErrorThatNamesItAndSta
     GTEST_SKIP() << "no such large files here";
   folder.write("fix.LDR", "\0\0\0\0\0\0!"s);
   try {
-    install_loader_patch(game, folder.path("fix.LDR"));
+    Status unseen;
+    install_loader_patch(game, unseen, folder.path("fix.LDR"));
     FAIL() << "it was patched";
   } catch (const ActionError& error) {
     EXPECT_EQ(error.path(), folder.path("eaw.exe"));

@@ -54,7 +54,8 @@ class DryRunFileSystem : public FileSystem {
 
   /// Every file that was written or deleted, folder by folder in the order in which they were first written
   /// to, by name within each.
-  std::vector<ForeseenFile> foreseen();
+  /// `pulse` is called for each.
+  std::vector<ForeseenFile> foreseen(const Pulse& pulse = {});
 
   std::string current_folder() override { return disk_.current_folder(); }
   bool FileExists(std::string_view path) override;

@@ -14,11 +14,11 @@ namespace vorlund {
 
 /// What becomes of a file of a set folder.
 enum class SetFileUse {
-  kGameDirectory,  ///< copied into the game directory
-  kSavedata,       ///< copied into "Savedata": missions and saves
-  kMusic,          ///< copied into "Music"
-  kPatch,          ///< loader patch: applied to the game's executable, never copied
-  kStays,          ///< stays in the store: pictures, texts, batch files and the like
+  kGameDirectory,   ///< copied into the game directory
+  kSavedataFolder,  ///< copied into "Savedata": missions and saves
+  kMusicFolder,     ///< copied into "Music"
+  kPatch,           ///< loader patch: applied to the game's executable, never copied
+  kStays,           ///< stays in the store: pictures, texts, batch files and the like
 };
 
 /// Decides by the bare name, without regard to case.

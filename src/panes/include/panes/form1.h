@@ -210,9 +210,6 @@ class Form1 {
   /// Says in the status line what to do next, or that the folder of the store holds nothing to do it with.
   void say_next(const FolderList& groups, std::string_view store, std::string_view next);
 
-  /// Every folder that an action may write or delete in.
-  [[nodiscard]] std::vector<std::string> written_folders() const;
-
   /// Runs an action on the game's files as change_tables does, while no other program can run one in the same
   /// folders. Where one does so already, nothing is done, and the status line says in which folder.
   void act(const std::function<void()>& action);

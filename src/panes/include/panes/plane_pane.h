@@ -66,8 +66,8 @@ class PlanePane {
   /// Refills the table from a file: the record, or a saved set-up.
   void load(std::string_view path);
 
-  /// Empties the table for the clean-up. The group stays but is not shown.
-  void empty();
+  /// Shows the table after the clean-up has emptied it. The group stays but is not shown.
+  void show_emptied();
 
   /// Makes the table's captions say what it holds, after something else has changed it.
   void refresh();
