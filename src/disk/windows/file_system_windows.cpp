@@ -1,7 +1,6 @@
 // The one door to the disk on Windows, through wide-character calls alone.
 #include <windows.h>
 
-#include <algorithm>
 #include <memory>
 #include <set>
 #include <utility>
@@ -9,7 +8,9 @@
 #include "base/action_error.h"
 #include "disk/file_system.h"
 #include "windows/windows_content.h"
+#include "windows/windows_folder.h"
 #include "windows/windows_folder_locks.h"
+#include "windows/windows_listing.h"
 #include "windows/windows_path.h"
 #include "windows/windows_target.h"
 
@@ -30,28 +31,9 @@ std::optional<DWORD> attributes_of(const std::wstring& path) {
   return information.dwFileAttributes;
 }
 
-/// Where links lead a folder's path, ending in a backslash; "", with the system's error, on failure.
-std::wstring resolved_folder(std::string_view path) {
-  const WindowsHandle opened =
-      open_existing(long_path(path, EntryKind::kFolder), FILE_READ_ATTRIBUTES, FILE_FLAG_BACKUP_SEMANTICS);
-  if (!opened.is_open()) return {};
-  std::wstring resolved(GetFinalPathNameByHandleW(opened.get(), nullptr, 0, FILE_NAME_NORMALIZED), L'\0');
-  const DWORD length = GetFinalPathNameByHandleW(opened.get(), resolved.data(),
-                                                 static_cast<DWORD>(resolved.size()), FILE_NAME_NORMALIZED);
-  if (length == 0 || length >= resolved.size()) return {};
-  resolved.resize(length);
-  if (resolved.back() != L'\\') resolved += L'\\';
-  return resolved;
-}
-
 bool is_folder(DWORD attributes) {
   return (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
 }
-
-struct CloseSearch {
-  void operator()(HANDLE search) const { FindClose(search); }
-};
-using Search = std::unique_ptr<void, CloseSearch>;
 
 class WindowsFileSystem final : public FileSystem {
  public:
@@ -73,14 +55,17 @@ class WindowsFileSystem final : public FileSystem {
   FolderLocks lock_folders(const std::vector<std::string>& folders, std::chrono::milliseconds wait) override;
 
  protected:
-  // Windows finds names in any spelling by itself, so there is nothing to remember during an action.
   /// Copies are written beside their targets: a file moved out of another folder would keep the access rights
   /// that it inherited there.
   void begin_action(Pulse pulse, std::string_view) override {
     patience_.set_pulse(std::move(pulse));
     unseen_.clear();
+    folders_.remember();
   }
-  void end_action() override { patience_.set_pulse({}); }
+  void end_action() override {
+    patience_.set_pulse({});
+    folders_.forget();
+  }
 
  private:
   /// After a look that failed: returns where nothing is there; where there is no right to look as well, and
@@ -93,6 +78,7 @@ class WindowsFileSystem final : public FileSystem {
 
   WindowsPatience patience_;
   WindowsContent content_{patience_};
+  WindowsFolders folders_;
   std::set<std::string> unseen_;  ///< paths that there was no right to look at
 };
 
@@ -134,9 +120,9 @@ bool WindowsFileSystem::is_there(std::string_view path) {
 
 bool WindowsFileSystem::lies_inside(std::string_view folder, std::string_view root) {
   if (!FolderExists(folder)) return false;
-  const std::wstring above = resolved_folder(root);
+  const std::wstring above = resolved_folder(long_path(root, EntryKind::kFolder));
   if (above.empty()) take_for_missing(root);
-  const std::wstring below = resolved_folder(folder);
+  const std::wstring below = resolved_folder(long_path(folder, EntryKind::kFolder));
   if (below.empty()) take_for_missing(folder);
   return !above.empty() && below.starts_with(above);
 }
@@ -146,32 +132,23 @@ std::vector<FolderEntry> WindowsFileSystem::entries(std::string_view folder) {
   if (prefix.empty()) return {};
   if (prefix.back() != L'\\') prefix += L'\\';
 
-  WIN32_FIND_DATAW entry;
-  const HANDLE first = FindFirstFileExW((prefix + L"*").c_str(), FindExInfoBasic, &entry,
-                                        FindExSearchNameMatch, nullptr, FIND_FIRST_EX_LARGE_FETCH);
-  if (first == INVALID_HANDLE_VALUE) {
-    const DWORD error = GetLastError();
-    const bool missing = error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND ||
-                         error == ERROR_DIRECTORY || error == ERROR_INVALID_NAME;
-    if (!missing) throw_windows_error("list the folder", folder, error);
-    return {};
-  }
-  const Search search(first);
   std::vector<FolderEntry> found;
-  do {
-    const std::wstring_view name = entry.cFileName;
-    if (name == L"." || name == L"..") continue;
-    const auto attributes = is_link(entry) ? attributes_of(prefix + entry.cFileName) : entry.dwFileAttributes;
+  WindowsListing listing(prefix, L"*");
+  while (const auto* entry = listing.next()) {
+    const std::string name = from_wide(entry->cFileName);
+    const auto attributes =
+        is_link(*entry) ? attributes_of(prefix + entry->cFileName) : entry->dwFileAttributes;
     if (!attributes) {
-      take_for_missing(std::string(folder).append("\\").append(from_wide(name)));
+      take_for_missing(std::string(folder).append("\\").append(name));
       continue;
     }
-    const bool hidden = (entry.dwFileAttributes & (FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM)) != 0;
-    found.push_back(
-        {from_wide(name), is_folder(*attributes) ? EntryKind::kFolder : EntryKind::kFile, hidden});
-  } while (FindNextFileW(search.get(), &entry) != 0);
+    const bool hidden = (entry->dwFileAttributes & (FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM)) != 0;
+    found.push_back({name, is_folder(*attributes) ? EntryKind::kFolder : EntryKind::kFile, hidden});
+  }
   const DWORD error = GetLastError();
-  if (error != ERROR_NO_MORE_FILES) throw_windows_error("list the folder", folder, error);
+  const bool no_folder =
+      error == ERROR_PATH_NOT_FOUND || error == ERROR_DIRECTORY || error == ERROR_INVALID_NAME;
+  if (error != ERROR_NO_MORE_FILES && !no_folder) throw_windows_error("list the folder", folder, error);
   return found;
 }
 
@@ -197,7 +174,7 @@ std::unique_ptr<FileReader> WindowsFileSystem::open_file(std::string_view path) 
 }
 
 void WindowsFileSystem::replace_file(std::string_view path, std::string_view bytes, Durability durability) {
-  WindowsTarget target(path, Spelling::kAsItStands, patience_);
+  WindowsTarget target(folders_, path, Spelling::kAsItStands, patience_);
   const HANDLE written = target.begin();
   if (!write_all(written, bytes)) throw_windows_error("write", path);
   target.finish(durability);
@@ -211,7 +188,7 @@ bool WindowsFileSystem::holds(const WindowsTarget& target, const WindowsSource& 
 CopyOutcome WindowsFileSystem::copy_file(std::string_view source_path, std::string_view target_path,
                                          Durability durability) {
   const WindowsSource source(source_path, patience_);
-  WindowsTarget target(target_path, Spelling::kAsAsked, patience_);
+  WindowsTarget target(folders_, target_path, Spelling::kAsAsked, patience_);
   if (holds(target, source)) {
     return target.keep(durability) ? CopyOutcome::kUnchanged : CopyOutcome::kWritten;
   }
@@ -222,7 +199,7 @@ CopyOutcome WindowsFileSystem::copy_file(std::string_view source_path, std::stri
 
 CopyForecast WindowsFileSystem::foresee_copy(std::string_view source_path, std::string_view target_path) {
   const WindowsSource source(source_path, patience_);
-  const WindowsTarget target(target_path, Spelling::kAsAsked, patience_);
+  const WindowsTarget target(folders_, target_path, Spelling::kAsAsked, patience_);
   const bool same = holds(target, source);
   if (same && target.is_as_asked()) return {CopyOutcome::kUnchanged, source.size()};
   target.foresee(same ? WindowsTarget::Writing::kSpelling : WindowsTarget::Writing::kBytes);
@@ -238,7 +215,7 @@ void WindowsFileSystem::foresee(Change change, std::string_view path) {
     return;
   }
   const Spelling spelling = change == Change::kCopy ? Spelling::kAsAsked : Spelling::kAsItStands;
-  WindowsTarget(path, spelling, patience_).foresee(WindowsTarget::Writing::kBytes);
+  WindowsTarget(folders_, path, spelling, patience_).foresee(WindowsTarget::Writing::kBytes);
 }
 
 std::optional<std::uint64_t> WindowsFileSystem::free_room(std::string_view folder) {
@@ -261,6 +238,8 @@ void WindowsFileSystem::remove_file(std::string_view path) {
   if (!patience_.insist_on_change([&] { return DeleteFileW(spelled.c_str()) != 0; })) {
     throw_windows_error(kDelete, path, likely_cause(GetLastError(), spelled));
   }
+  const std::size_t name_begin = spelled.rfind(L'\\') + 1;
+  folders_.open(spelled.substr(0, name_begin))->name_removed(spelled.substr(name_begin));
 }
 
 void WindowsFileSystem::start_program(std::string_view path, std::string_view folder) {

@@ -39,8 +39,8 @@ bool WindowsContent::same(const WindowsSource& source, HANDLE target) {
     std::size_t got = 0;
     if (!read_up_to(target, target_buffer_.data(), target_buffer_.size(), got)) return false;
     if (expected != std::string_view(target_buffer_.data(), got)) return false;
-    if (got == 0) return true;
     pulse_.worked_through(got);
+    if (got < kBlock) return true;
   }
 }
 
@@ -50,9 +50,9 @@ void WindowsContent::copy(const WindowsSource& source, HANDLE target, std::strin
     throw_windows_error("read", source.path());
   for (;;) {
     const std::string_view bytes = next_block(source);
-    if (bytes.empty()) return;
     if (!write_all(target, bytes)) throw_windows_error("write", target_path);
     pulse_.worked_through(bytes.size());
+    if (bytes.size() < kBlock) return;
   }
 }
 

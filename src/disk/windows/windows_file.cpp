@@ -109,8 +109,8 @@ bool read_up_to(HANDLE file, char* bytes, std::size_t size, std::size_t& done) {
     DWORD got = 0;
     const auto step = static_cast<DWORD>(std::min(size - done, kLargestTransfer));
     if (ReadFile(file, bytes + done, step, &got, nullptr) == 0) return false;
-    if (got == 0) break;
     done += got;
+    if (got < step) break;  // the end: files are not read piecemeal
   }
   return true;
 }

@@ -5,7 +5,7 @@
 #include <array>
 
 #include "disk/file_system.h"
-#include "windows/windows_left_overs.h"
+#include "windows/windows_folder.h"
 #include "windows/windows_path.h"
 
 namespace vorlund {

@@ -9,7 +9,6 @@
 
 #include "base/action_error.h"
 #include "base/text.h"
-#include "windows/windows_left_overs.h"
 #include "windows/windows_path.h"
 
 namespace vorlund {
@@ -25,16 +24,6 @@ constexpr std::string_view kNoRight =
 /// Attributes that a replaced file hands on.
 constexpr DWORD kKeptAttributes = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_ARCHIVE;
 
-/// The entry that a path names, links not followed; none, with the system's error, when there is none.
-std::optional<WIN32_FIND_DATAW> find_entry(const std::wstring& path) {
-  WIN32_FIND_DATAW entry;
-  const HANDLE search =
-      FindFirstFileExW(path.c_str(), FindExInfoBasic, &entry, FindExSearchNameMatch, nullptr, 0);
-  if (search == INVALID_HANDLE_VALUE) return std::nullopt;
-  FindClose(search);
-  return entry;
-}
-
 }  // namespace
 
 void refuse_read_only(DWORD attributes, std::string_view attempted, std::string_view path) {
@@ -42,25 +31,22 @@ void refuse_read_only(DWORD attributes, std::string_view attempted, std::string_
     throw ActionError(attempted, path, "the file is read-only");
 }
 
-bool is_link(const WIN32_FIND_DATAW& entry) {
-  return (entry.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0 &&
-         IsReparseTagNameSurrogate(entry.dwReserved0);
-}
-
-WindowsTarget::WindowsTarget(std::string_view path, Spelling spelling, const WindowsPatience& patience)
+WindowsTarget::WindowsTarget(WindowsFolders& folders, std::string_view path, Spelling spelling,
+                             const WindowsPatience& patience)
     : patience_(patience), path_(path), long_path_(long_path(path, EntryKind::kFile)) {
   const std::size_t name_begin = long_path_.rfind(L'\\') + 1;
   folder_ = long_path_.substr(0, name_begin);
   name_ = long_path_.substr(name_begin);
   if (name_.empty()) throw_windows_error("write", path_, ERROR_INVALID_NAME);
 
-  existing_ = find_entry(long_path_);
+  in_ = folders.open(folder_);
+  existing_ = in_->find(name_);
   if (!existing_) {
     if (GetLastError() != ERROR_FILE_NOT_FOUND) fail();
-  } else if ((existing_->dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
+  } else if ((existing_->attributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
     throw ActionError("write", path_, kIsFolder);
   } else if (spelling == Spelling::kAsItStands && spelled_otherwise()) {
-    name_ = existing_->cFileName;
+    name_ = existing_->name;
     long_path_ = folder_ + name_;
   }
 }
@@ -72,17 +58,15 @@ WindowsTarget::~WindowsTarget() {
 }
 
 WindowsHandle WindowsTarget::open_to_compare(std::uint64_t size) const {
-  if (!existing_ || is_link(*existing_)) return {};
-  const std::uint64_t existing_size =
-      (std::uint64_t{existing_->nFileSizeHigh} << 32) | existing_->nFileSizeLow;
-  if (existing_size != size) return {};
+  if (!existing_ || existing_->link || existing_->size != size) return {};
   return open_existing(long_path_, GENERIC_READ, FILE_FLAG_SEQUENTIAL_SCAN);
 }
 
 bool WindowsTarget::keep(Durability durability) {
   const bool as_asked = !spelled_otherwise();
   settle_spelling();
-  const bool read_only = (existing_->dwFileAttributes & FILE_ATTRIBUTE_READONLY) != 0;
+  if (!as_asked) remember({name_, existing_->attributes, existing_->link, existing_->size});
+  const bool read_only = (existing_->attributes & FILE_ATTRIBUTE_READONLY) != 0;
   if (durability == Durability::kFlushed && !read_only) {
     WindowsHandle kept;
     const bool opened = patience_.insist([&] {
@@ -95,7 +79,7 @@ bool WindowsTarget::keep(Durability durability) {
 }
 
 void WindowsTarget::foresee(Writing writing) const {
-  if (existing_ && writing == Writing::kBytes) refuse_read_only(existing_->dwFileAttributes, "write", path_);
+  if (existing_ && writing == Writing::kBytes) refuse_read_only(existing_->attributes, "write", path_);
   // Asking for the right to add a file adds none.
   if (open_existing(folder_, FILE_ADD_FILE, FILE_FLAG_BACKUP_SEMANTICS).is_open()) return;
   if (GetLastError() == ERROR_ACCESS_DENIED) throw ActionError("write", path_, kNoRight);
@@ -103,9 +87,9 @@ void WindowsTarget::foresee(Writing writing) const {
 }
 
 HANDLE WindowsTarget::begin() {
-  if (existing_) refuse_read_only(existing_->dwFileAttributes, "write", path_);
-  const DWORD kept = existing_ ? existing_->dwFileAttributes & kKeptAttributes : 0;
-  delete_matching(folder_, is_left_over);
+  if (existing_) refuse_read_only(existing_->attributes, "write", path_);
+  const DWORD kept = existing_ ? existing_->attributes & kKeptAttributes : 0;
+  in_->sweep_left_overs();
   for (unsigned attempt = 0; !written_.is_open(); ++attempt) {
     const std::wstring neighbour = folder_ + to_wide(staging_name(attempt));
     const bool created = patience_.insist_on_change([&] {
@@ -138,40 +122,50 @@ void WindowsTarget::finish(Durability durability) {
   if (flushed && FlushFileBuffers(written_.get()) == 0) fail("flush");
   if (!patience_.insist_on_change([this] { return rename_written(); })) fail();
   WindowsHandle renamed = std::move(written_);
+  LARGE_INTEGER size;
+  if (GetFileSizeEx(renamed.get(), &size) == 0) fail();
   if (flushed && FlushFileBuffers(renamed.get()) == 0) fail("flush");
   if (!renamed.close()) fail();
   settle_spelling();
+  const DWORD attributes = existing_ ? existing_->attributes & kKeptAttributes : 0;
+  remember({name_, attributes, false, static_cast<std::uint64_t>(size.QuadPart)});
 }
 
 /// A name found by its short form, "LONGNA~1", is no other spelling and stays.
 bool WindowsTarget::spelled_otherwise() const {
-  return existing_ && existing_->cFileName != name_ &&
-         same_name(from_wide(existing_->cFileName), from_wide(name_));
+  return existing_ && existing_->name != name_ && same_name(from_wide(existing_->name), from_wide(name_));
 }
 
 void WindowsTarget::settle_spelling() const {
   if (!spelled_otherwise()) return;
-  const auto spelled_as_asked = [this] {
-    const auto entry = find_entry(long_path_);
-    return entry && entry->cFileName == name_;
+  WindowsFolder fresh(folder_, WindowsFolder::Memory::kFresh);
+  const auto spelled_as_asked = [&] {
+    const auto entry = fresh.find(name_);
+    return entry && entry->name == name_;
   };
   if (spelled_as_asked()) return;
-  const std::wstring spelled = folder_ + existing_->cFileName;
+  const std::wstring spelled = folder_ + existing_->name;
   if (!move(spelled, long_path_)) fail(kRename);
   if (spelled_as_asked()) return;
 
   // Where a rename that changes nothing but case is passed over, as by Wine, the file takes a step over a
   // name of this process's own. It holds the source's bytes by then, so a crash there loses nothing.
   std::wstring step;
-  for (unsigned attempt = 0; step.empty() || find_entry(step); ++attempt) {
-    step = folder_ + to_wide(staging_name(attempt));
-  }
+  for (unsigned attempt = 0; step.empty() || fresh.find(step); ++attempt)
+    step = to_wide(staging_name(attempt));
+  step.insert(0, folder_);
   if (!move(spelled, step)) fail(kRename);
   if (!move(step, long_path_)) {
     const DWORD error = GetLastError();
     move(step, spelled);
     throw_windows_error(kRename, path_, error);
   }
+}
+
+/// What is in place now takes the place of what was there in what is remembered of the folder.
+void WindowsTarget::remember(WindowsEntry entry) const {
+  if (existing_) in_->name_removed(existing_->name);
+  in_->name_written(std::move(entry));
 }
 
 /// False, with the system's error, on failure.

@@ -4,6 +4,7 @@
 #include <windows.h>
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -11,6 +12,7 @@
 #include "disk/file_system.h"
 #include "spelling.h"
 #include "windows/windows_file.h"
+#include "windows/windows_folder.h"
 #include "windows/windows_patience.h"
 
 namespace vorlund {
@@ -20,7 +22,8 @@ namespace vorlund {
 class WindowsTarget {
  public:
   /// Looks up what is there. `path` is the path as the program spells it.
-  WindowsTarget(std::string_view path, Spelling spelling, const WindowsPatience& patience);
+  WindowsTarget(WindowsFolders& folders, std::string_view path, Spelling spelling,
+                const WindowsPatience& patience);
 
   /// Removes the neighbour of a write that was not finished.
   ~WindowsTarget();
@@ -55,6 +58,7 @@ class WindowsTarget {
   bool move(const std::wstring& from, const std::wstring& to) const;
   /// Spells the file that is in place as asked.
   void settle_spelling() const;
+  void remember(WindowsEntry entry) const;
   [[noreturn]] void fail(std::string_view attempted = "write") const;
 
   const WindowsPatience& patience_;
@@ -62,14 +66,12 @@ class WindowsTarget {
   std::wstring long_path_;
   std::wstring folder_;  ///< with a backslash at its end
   std::wstring name_;
-  std::optional<WIN32_FIND_DATAW> existing_;
+  std::shared_ptr<WindowsFolder> in_;
+  std::optional<WindowsEntry> existing_;
   WindowsHandle written_;  ///< the neighbour, open to nobody else until it is in its place
 };
 
 /// Throws ActionError where the attributes mark the file read-only.
 void refuse_read_only(DWORD attributes, std::string_view attempted, std::string_view path);
-
-/// True for a link, which is replaced or removed itself.
-bool is_link(const WIN32_FIND_DATAW& entry);
 
 }  // namespace vorlund
