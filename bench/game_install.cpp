@@ -1,12 +1,6 @@
 // Prepares folders and takes times.
 #include "game_install.h"
 
-#include <fcntl.h>
-#include <spawn.h>
-#include <sys/wait.h>
-#include <unistd.h>
-
-#include <chrono>
 #include <cstdio>
 #include <fstream>
 #include <memory>
@@ -14,24 +8,14 @@
 #include <string>
 
 #include "gamesets/game_installer.h"
-
-extern char** environ;
+#include "measure.h"
+#include "plain_loops.h"
 
 namespace vorlund::bench {
 
 namespace {
 
 namespace fs = std::filesystem;
-
-class Stopwatch {
- public:
-  double seconds() const {
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - started_).count();
-  }
-
- private:
-  std::chrono::steady_clock::time_point started_ = std::chrono::steady_clock::now();
-};
 
 /// Bytes without a pattern, others for each seed.
 std::string made(std::uint64_t seed, std::uint64_t size) {
@@ -48,14 +32,6 @@ std::string made(std::uint64_t seed, std::uint64_t size) {
   return bytes;
 }
 
-/// Waits until what was written to the disk of the folder is there.
-void settle(const fs::path& folder) {
-  const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY);
-  if (descriptor < 0 || ::syncfs(descriptor) != 0)
-    throw std::runtime_error("cannot write out " + folder.string());
-  ::close(descriptor);
-}
-
 }  // namespace
 
 GameInstall::GameInstall(fs::path root, std::uint64_t files, std::uint64_t bytes)
@@ -67,7 +43,7 @@ GameInstall::GameInstall(fs::path root, std::uint64_t files, std::uint64_t bytes
       bytes_(bytes) {
   fs::remove_all(root_);
   fs::create_directories(set_);
-  fs::create_directories(reference_);
+  fs::create_directories(reference_ / "~Vorlund");
   write_files(set_, "file", 1);
 }
 
@@ -126,24 +102,23 @@ double GameInstall::run_program() const {
   Status status;
   GameTable table;
   table.add_row({"Group", "Set"});
-  const Stopwatch watch;
-  const GameSetSummary summary = install_game_set(game, status, table);
-  const double seconds = watch.seconds();
+  GameSetSummary summary;
+  const double seconds = seconds_of([&] { summary = install_game_set(game, status, table); });
   if (summary.copied + summary.unchanged != files_) throw std::runtime_error("not every file was installed");
   return seconds;
 }
 
-double GameInstall::run_reference() const {
-  std::string words[] = {"cp", "-r", set_.string() + "/.", reference_.string()};
-  char* arguments[] = {words[0].data(), words[1].data(), words[2].data(), words[3].data(), nullptr};
-  const Stopwatch watch;
-  pid_t child = 0;
-  int result = -1;
-  if (::posix_spawnp(&child, "cp", nullptr, nullptr, arguments, environ) != 0 ||
-      ::waitpid(child, &result, 0) < 0 || result != 0) {
-    throw std::runtime_error("cp failed");
-  }
-  return watch.seconds();
+double GameInstall::run_reference(Reference reference) const {
+  return seconds_of([&] {
+    switch (reference) {
+      case Reference::kCommand:
+        return copy_by_command(set_, reference_);
+      case Reference::kCopying:
+        return copy_plainly(set_, reference_, reference_ / "~Vorlund");
+      case Reference::kComparing:
+        return compare_plainly(set_, reference_);
+    }
+  });
 }
 
 }  // namespace vorlund::bench

@@ -1,4 +1,4 @@
-// One installation of a game set as the program does it, and the same copying by cp.
+// One installation of a game set as the program does it, and the same work by others.
 #pragma once
 
 #include <cstdint>
@@ -7,7 +7,7 @@
 namespace vorlund::bench {
 
 /// A folder on the disk to be measured that holds a game directory with one set in its store, and a second
-/// folder for `cp`. What is made beforehand is not measured.
+/// folder for what it is measured against. What is made beforehand is not measured.
 class GameInstall {
  public:
   /// `root` is made anew. The set holds `files` files of `bytes` bytes each.
@@ -24,15 +24,22 @@ class GameInstall {
     kOthers,     ///< as many files of other names
   };
 
-  /// Prepares the program's and cp's target folder and writes everything out to the disk.
+  /// What the program is measured against.
+  enum class Reference {
+    kCommand,    ///< the system's own command for copying a folder
+    kCopying,    ///< a plain loop that writes each file beside its place and renames it
+    kComparing,  ///< a plain loop that opens and compares both files
+  };
+
+  /// Prepares the program's and the reference's target folder and writes everything out to the disk.
   void prepare_program(Targets targets) const;
   void prepare_reference(Targets targets) const;
 
   /// Installs the set; returns the seconds it took. Throws where not every file was dealt with.
   double run_program() const;
 
-  /// `cp -r` of the set's folder; returns the seconds it took.
-  double run_reference() const;
+  /// Does the same work with the reference; returns the seconds it took.
+  double run_reference(Reference reference) const;
 
  private:
   void prepare(const std::filesystem::path& target, Targets targets) const;

@@ -55,6 +55,16 @@ windows_tools() {
     gcc-mingw-w64-x86-64-posix-runtime mingw-w64-x86-64-dev binutils-mingw-w64-x86-64
 }
 
+# Wine keeps what it takes for its Windows disk under build/, apart from any the user has.
+prepare_wine() {
+  export WINEPREFIX="$root/build/wine" WINEDEBUG=-all WINEDLLOVERRIDES="mscoree,mshtml="
+  [ ! -f "$WINEPREFIX/system.reg" ] || return 0
+  say "Preparing Wine"
+  mkdir -p "$WINEPREFIX"
+  wineboot --init </dev/null
+  wineserver --wait
+}
+
 # configure PRESET [CMAKE-ARGUMENT...]: prepares build/PRESET.
 configure() {
   local preset=$1

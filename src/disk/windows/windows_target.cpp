@@ -59,7 +59,7 @@ WindowsTarget::~WindowsTarget() {
 
 WindowsHandle WindowsTarget::open_to_compare(std::uint64_t size) const {
   if (!existing_ || existing_->link || existing_->size != size) return {};
-  return open_existing(long_path_, GENERIC_READ, FILE_FLAG_SEQUENTIAL_SCAN);
+  return open_existing(folder_ + existing_->name, GENERIC_READ, FILE_FLAG_SEQUENTIAL_SCAN);
 }
 
 bool WindowsTarget::keep(Durability durability) {
@@ -89,12 +89,15 @@ void WindowsTarget::foresee(Writing writing) const {
 HANDLE WindowsTarget::begin() {
   if (existing_) refuse_read_only(existing_->attributes, "write", path_);
   const DWORD kept = existing_ ? existing_->attributes & kKeptAttributes : 0;
+  const DWORD attributes = kept != 0 ? kept : FILE_ATTRIBUTE_NORMAL;
   in_->sweep_left_overs();
   for (unsigned attempt = 0; !written_.is_open(); ++attempt) {
     const std::wstring neighbour = folder_ + to_wide(staging_name(attempt));
     const bool created = patience_.insist_on_change([&] {
+      // The name is taken as it stands: where the system tells cases apart below, as Wine does, it need not
+      // look through the whole folder for another spelling.
       written_ = WindowsHandle(CreateFileW(neighbour.c_str(), GENERIC_WRITE | DELETE, 0, nullptr, CREATE_NEW,
-                                           kept != 0 ? kept : FILE_ATTRIBUTE_NORMAL, nullptr));
+                                           attributes | FILE_FLAG_POSIX_SEMANTICS, nullptr));
       return written_.is_open();
     });
     const DWORD error = created ? ERROR_SUCCESS : GetLastError();
