@@ -253,7 +253,9 @@ CopyOutcome DryRunFileSystem::copy_file(std::string_view source, std::string_vie
   const auto replaced = found_in(group, place.name);
   const bool hidden = replaced != group.end() && replaced->entry.hidden;
   std::erase_if(group, [](const Entry& entry) { return is_file(entry.entry); });
-  group.push_back({{place.name, EntryKind::kFile, hidden}, content, false});
+  Entry& copied = group.emplace_back();
+  copied.entry = {place.name, EntryKind::kFile, hidden};
+  copied.content = content;
   return copy.outcome;
 }
 

@@ -11,6 +11,7 @@
 
 #include "base/action_error.h"
 #include "disk/file_system.h"
+#include "posix/posix_program.h"
 #include "support/temporary_folder.h"
 
 namespace vorlund {
@@ -115,6 +116,34 @@ TEST_F(StartProgramTest, AProgramThatTheSystemRefusesIsAnError) {
   EXPECT_THROW(files_->start_program(folder_.path("Game\\eaw.exe"), folder_.path("Game")), ActionError);
   make_script("Game/fly", "exit 0");
   EXPECT_THROW(files_->start_program(folder_.path("Game\\fly"), folder_.path("nothing")), ActionError);
+}
+
+/// The beginning of a Windows program for a processor: the header stands behind a little program for DOS.
+std::string windows_program(const std::string& machine) {
+  std::string bytes = "MZ" + std::string(0x3A, '\0') + std::string("\x80\0\0\0", 4);
+  bytes.resize(0x80, ' ');
+  return bytes + std::string("PE\0\0", 4) + machine;
+}
+
+TEST(WindowsProgram, IsToldToBeA32BitOneByItsHeader) {
+  EXPECT_TRUE(is_32_bit_windows_program(windows_program("\x4C\x01")));
+  EXPECT_FALSE(is_32_bit_windows_program(windows_program("\x64\x86")));
+  EXPECT_FALSE(is_32_bit_windows_program(windows_program("\x4C")));
+  EXPECT_FALSE(is_32_bit_windows_program("MZ"));
+  EXPECT_FALSE(is_32_bit_windows_program("MZ" + std::string(0x3A, '\0') + "\xFF\xFF\xFF\xFF"));
+  EXPECT_FALSE(is_32_bit_windows_program(""));
+}
+
+TEST(WindowsProgram, TakesThe32BitPartOfDebiansWineWhereItIsOne) {
+  const test::TemporaryFolder folder;
+  const std::string root = folder.path();
+  for (const char* name : {"usr/bin/wine-stable", "usr/lib/wine/wine64", "opt/wine"}) folder.write(name, "");
+  std::filesystem::create_symlink("wine-stable", root + "/usr/bin/wine");
+  EXPECT_TRUE(lacks_32_bit_wine(root + "/usr/bin/wine", root));
+  EXPECT_FALSE(lacks_32_bit_wine(root + "/opt/wine", root));
+  EXPECT_FALSE(lacks_32_bit_wine(root + "/usr/bin/nothing", root));
+  folder.write("usr/lib/wine/wine", "");
+  EXPECT_FALSE(lacks_32_bit_wine(root + "/usr/bin/wine", root));
 }
 
 }  // namespace

@@ -33,7 +33,7 @@ TEST(WindowsFolderLocksTest, WhatAnotherProgramHoldsIsFreeWhenItIsEnded) {
   ASSERT_TRUE(folder.has("Game\\held"));
 
   const auto files = make_platform_file_system();
-  EXPECT_EQ(folder.read("Game\\held"), "");
+  EXPECT_EQ(files->read_file(folder.path("Game\\held")), "");
   EXPECT_EQ(files->lock_folders({folder.path("GAME")}, 0ms).in_use(), folder.path("GAME"));
   other.end();
   EXPECT_EQ(files->lock_folders({folder.path("Game")}, 10s).in_use(), "");

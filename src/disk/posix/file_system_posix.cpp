@@ -351,7 +351,7 @@ void PosixFileSystem::start_program(std::string_view path, std::string_view fold
   const bool found = with_spelling(
       program, [&status](int parent, const char* name) { return look_at(parent, name, status); });
   if (!found) throw_system_error("start", path);
-  const std::string beginning = read_file(path, 2);
+  const std::string beginning = read_file(path, kProgramBeginning);
   std::string spelled = join_path(program.folder->path(), program.name);
   if (spelled.front() != '/') spelled = join_path(current_folder(), spelled);
 

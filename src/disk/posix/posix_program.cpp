@@ -61,11 +61,37 @@ bool process_runs(std::uint32_t number) {
   return ::kill(static_cast<pid_t>(number), 0) == 0 || errno != ESRCH;
 }
 
+bool is_32_bit_windows_program(std::string_view beginning) {
+  constexpr std::size_t kHeaderOffset = 0x3C;
+  constexpr std::string_view kHeader("PE\0\0\x4C\x01", 6);
+  if (!beginning.starts_with("MZ") || beginning.size() < kHeaderOffset + 4) return false;
+  std::size_t header = 0;
+  for (std::size_t byte = 4; byte-- > 0;) {
+    header = header << 8 | static_cast<unsigned char>(beginning[kHeaderOffset + byte]);
+  }
+  return header < beginning.size() && beginning.substr(header).starts_with(kHeader);
+}
+
+bool lacks_32_bit_wine(const std::string& wine, const std::string& root) {
+  const auto there = [&root](const char* path) { return ::access((root + path).c_str(), F_OK) == 0; };
+  char* const real = ::realpath(wine.c_str(), nullptr);
+  const std::string command = real != nullptr ? real : "";
+  std::free(real);
+  return command.starts_with(root + "/usr/bin/wine") && there("/usr/lib/wine/wine64") &&
+         !there("/usr/lib/wine/wine") && !there("/usr/lib/x86_64-linux-gnu/wine/i386-windows") &&
+         !there("/usr/lib/i386-linux-gnu/wine");
+}
+
 PosixCommand command_for(const std::string& program, std::string_view beginning) {
   if (!beginning.starts_with("MZ")) return {program, {program}};
   const std::string wine = find_command("wine");
   if (wine.empty()) {
     throw ActionError("start", program, "Wine is missing, which is needed to start a Windows program");
+  }
+  if (is_32_bit_windows_program(beginning) && lacks_32_bit_wine(wine)) {
+    throw ActionError("start", program,
+                      "it is a 32-bit program, and only the 64-bit part of Wine is installed. As root: "
+                      "dpkg --add-architecture i386 && apt-get update && apt-get install wine32:i386");
   }
   return {wine, {"wine", program}};
 }

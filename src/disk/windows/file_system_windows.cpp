@@ -12,6 +12,7 @@
 #include "windows/windows_folder_locks.h"
 #include "windows/windows_listing.h"
 #include "windows/windows_path.h"
+#include "windows/windows_program.h"
 #include "windows/windows_target.h"
 
 namespace vorlund {
@@ -51,7 +52,9 @@ class WindowsFileSystem final : public FileSystem {
   void foresee(Change change, std::string_view path) override;
   CopyForecast foresee_copy(std::string_view source, std::string_view target) override;
   std::optional<std::uint64_t> free_room(std::string_view folder) override;
-  void start_program(std::string_view path, std::string_view folder) override;
+  void start_program(std::string_view path, std::string_view folder) override {
+    start_windows_program(path, folder);
+  }
   FolderLocks lock_folders(const std::vector<std::string>& folders, std::chrono::milliseconds wait) override;
 
  protected:
@@ -240,24 +243,6 @@ void WindowsFileSystem::remove_file(std::string_view path) {
   }
   const std::size_t name_begin = spelled.rfind(L'\\') + 1;
   folders_.open(spelled.substr(0, name_begin))->name_removed(spelled.substr(name_begin));
-}
-
-void WindowsFileSystem::start_program(std::string_view path, std::string_view folder) {
-  // Programs are given the plain form: many don't know the long one.
-  const std::wstring program = absolute_path(path, EntryKind::kFile);
-  const std::wstring start_folder = absolute_path(folder, EntryKind::kFolder);
-  std::wstring command_line = L"\"" + program + L"\"";
-  STARTUPINFOW start{};
-  start.cb = sizeof start;
-  start.dwFlags = STARTF_USESHOWWINDOW;
-  start.wShowWindow = SW_SHOWNORMAL;
-  PROCESS_INFORMATION process{};
-  if (CreateProcessW(program.c_str(), command_line.data(), nullptr, nullptr, FALSE, 0, nullptr,
-                     start_folder.c_str(), &start, &process) == 0) {
-    throw_windows_error("start", path);
-  }
-  CloseHandle(process.hThread);
-  CloseHandle(process.hProcess);
 }
 
 FolderLocks WindowsFileSystem::lock_folders(const std::vector<std::string>& folders,
