@@ -29,6 +29,10 @@ as_root() {
 # Installs those of the named Debian packages that are missing.
 install_packages() {
   local package missing=()
+  if ! command -v apt-get >/dev/null; then
+    say "There is no apt here. README.md says under \"Elsewhere\" what has to be installed; going on with what is there."
+    return
+  fi
   for package in "$@"; do
     dpkg-query --show --showformat='${db:Status-Status}\n' "$package" 2>/dev/null | grep -qx installed ||
       missing+=("$package")

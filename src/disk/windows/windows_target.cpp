@@ -21,6 +21,9 @@ constexpr std::string_view kNoRight =
     "Files\", "
     "or give your account the right to change that folder";
 
+/// In characters, on every disk that Windows knows.
+constexpr std::size_t kLongestName = 255;
+
 /// Attributes that a replaced file hands on.
 constexpr DWORD kKeptAttributes = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_ARCHIVE;
 
@@ -38,6 +41,7 @@ WindowsTarget::WindowsTarget(WindowsFolders& folders, std::string_view path, Spe
   folder_ = long_path_.substr(0, name_begin);
   name_ = long_path_.substr(name_begin);
   if (name_.empty()) throw_windows_error("write", path_, ERROR_INVALID_NAME);
+  if (name_.size() > kLongestName) throw_windows_error("write", path_, ERROR_FILENAME_EXCED_RANGE);
 
   in_ = folders.open(folder_);
   existing_ = in_->find(name_);
