@@ -30,6 +30,10 @@ constexpr int kTwoLineHeight = 690;
 /// So long a start waits for the action of another program.
 constexpr std::chrono::seconds kStartWaits{2};
 
+std::string joined_and(const std::string& one, const std::string& other) {
+  return one + (one.empty() || other.empty() ? "" : " and ") + other;
+}
+
 void place_label(Label& label, int top) {
   label.place = {kMenuLeft, top, kMenuWidth, kLabelHeight};
 }
@@ -87,6 +91,7 @@ void Form1::Form_Load() {
                  "\"");
   }
   say_unseen();
+  history_.begin();
 }
 
 void Form1::confirm_directory() {
@@ -210,7 +215,9 @@ void Form1::Label10_Click(int index) {
 
 void Form1::G1_MouseDown(int row, int column, const MouseEvent& event) {
   if (event.button != MouseButton::kLeft) return;
-  if (plane.click_cell(row, column)) possible_skins.FillPossibleSkins();
+  change_tables([&] {
+    if (plane.click_cell(row, column)) possible_skins.FillPossibleSkins();
+  });
 }
 
 void Form1::install_aircraft() {
@@ -236,6 +243,9 @@ void Form1::load_set_ups() {
     shows ? game.show() : game.install();
     if (!shows && loads_planes) desk.say(said + "\n" + desk.status_line.caption);
   }
+  history_.note(joined_and(loads_planes ? quoted(load_pane.Label20.caption) : "",
+                           loads_games ? quoted(load_pane.Label21.caption) : "") +
+                " loaded into the tables");
   load_pane.hide();
   // Without a running work "Label2" would bring no table back: then it is that of the set-up last loaded.
   if (!desk.labels.Label2.caption.empty() || selection.shows_groups()) return;
@@ -272,7 +282,9 @@ void Form1::say_unseen() {
 
 void Form1::change_tables(const std::function<void()>& change) {
   const std::string home_before = careers_home_name(game.G2);
+  history_.note({});  // the slots that opening the aircraft settings has added, say
   change();
+  history_.note(desk.outcome());
   selection.ShowSelected();
   const std::string home = careers_home_name(game.G2);
   if (home == home_before) return;
@@ -282,6 +294,20 @@ void Form1::change_tables(const std::function<void()>& change) {
   desk.say_too(
       which + " in \"Savedata\" would now " +
       (home.empty() ? "stay there: no row names their home" : "go home to " + home + " at \"Clean Up\""));
+}
+
+void Form1::take_back() {
+  change_tables([this] {
+    const std::string what = history_.take_back();
+    desk.say(what.empty() ? "There is nothing to take back" : "Taken back: " + what);
+  });
+}
+
+void Form1::do_again() {
+  change_tables([this] {
+    const std::string what = history_.do_again();
+    desk.say(what.empty() ? "There is nothing to do again" : "Done again: " + what);
+  });
 }
 
 void Form1::clean_up() {
@@ -295,6 +321,7 @@ void Form1::clean_up() {
   desk.labels.Label2.visible = false;
   selection.remove_group_labels();
   desk.say(summary.sentence());
+  history_.begin();
 }
 
 }  // namespace vorlund

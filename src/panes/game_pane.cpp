@@ -21,7 +21,8 @@ void GamePane::clear_selected_row(std::optional<std::string_view> last_group) {
   }
   const std::string cleared = G2.current_in_words();
   G2.clear_current(last_group);
-  desk_.say(cleared + " was cleared. Its files stay in the game folder until \"Clean Up\".");
+  desk_.say(cleared + " was cleared");
+  desk_.say_on(kFilesStay);
 }
 
 void GamePane::move_selected_row_to_end() {

@@ -34,9 +34,9 @@ void PlanePane::clear_selected_row() {
   }
   G1.clear_current();
   refresh();
-  desk_.say(
-      "Slot " + G1.cell(G1.current_row, PlaneTable::kSlot) +
-      " was cleared and is still the selected one. Its files stay in the game folder until \"Clean Up\".");
+  desk_.say("Slot " + G1.cell(G1.current_row, PlaneTable::kSlot) +
+            " was cleared and is still the selected one");
+  desk_.say_on(kFilesStay);
 }
 
 void PlanePane::switch_view() {
@@ -69,6 +69,12 @@ void PlanePane::load(std::string_view path) {
 
 void PlanePane::show_emptied() {
   for (Label& label : Label25) label.caption.clear();
+  refresh();
+}
+
+void PlanePane::show_changed(int row) {
+  if (!G1.shows_all) G1.g1update();
+  G1.select(row, G1.current_column);
   refresh();
 }
 

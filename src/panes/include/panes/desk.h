@@ -11,6 +11,9 @@
 
 namespace vorlund {
 
+/// What is said after a row was cleared.
+inline constexpr std::string_view kFilesStay = "Its files stay in the game folder until \"Clean Up\".";
+
 /// Labels outside any one pane's keeping.
 struct SharedLabels {
   Label Label2{"", false};                         ///< brings the hidden table of the running work back
@@ -46,7 +49,16 @@ struct Desk {
   [[nodiscard]] GameFolder game() const { return {files, directory.Label16.caption}; }
 
   /// Puts a text into the status line; further lines are separated by "\n".
-  void say(std::string_view text) { status_line.caption = text; }
+  void say(std::string_view text) {
+    status_line.caption = text;
+    outcome_ = text;
+  }
+
+  /// What was said last, without what was added to it.
+  [[nodiscard]] const std::string& outcome() const { return outcome_; }
+
+  /// Adds a sentence to what the status line says, in the same line.
+  void say_on(std::string_view text) { status_line.caption.append(". ").append(text); }
 
   /// Adds a line to what the status line says.
   void say_too(std::string_view text);
@@ -57,6 +69,7 @@ struct Desk {
   void show_in_front(Frame& frame);
 
  private:
+  std::string outcome_;
   int front_ = 0;
 };
 

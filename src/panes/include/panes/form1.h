@@ -16,6 +16,7 @@
 #include "panes/possible_skins.h"
 #include "panes/save_pane.h"
 #include "panes/selection_pane.h"
+#include "panes/table_history.h"
 
 namespace vorlund {
 
@@ -117,8 +118,12 @@ class Form1 {
   }
   void Label30_Click() { plane.switch_view(); }
   void Option1_Click(int index) { plane.set_option(static_cast<PlaneOption>(index)); }
-  void List2_Click(int index) { browser.select_flight_model(index); }
-  void List3_Click(int index) { browser.select_plane_code(index); }
+  void List2_Click(int index) {
+    change_tables([this, index] { browser.select_flight_model(index); });
+  }
+  void List3_Click(int index) {
+    change_tables([this, index] { browser.select_plane_code(index); });
+  }
   void Label14_Click() { save_pane.open(SavePane::SaveKind::kPlaneSet); }
   void Label13_Click() { load_pane.open(); }
   void PictureMenus_Click() { menu_editor.show(); }
@@ -126,7 +131,9 @@ class Form1 {
   void Frame1_MouseUp(const MouseEvent& event) { release_frame(plane.Frame1, event); }
 
   // The selection pane and the group labels.
-  void Label1_Click(int index) { selection.open_group(index); }
+  void Label1_Click(int index) {
+    change_tables([this, index] { selection.open_group(index); });
+  }
   void SelLab_Click(int index) { selection.show_selection(index); }
   void SelLab_DblClick() {
     change_tables([this] { selection.DoSel(); });
@@ -179,6 +186,11 @@ class Form1 {
     act([this] { clean_up(); });
   }
 
+  /// Ctrl+Z and Ctrl+Y: takes the last change of the tables since the start or the clean-up back, and does it
+  /// again. In memory alone; files are as they were.
+  void take_back();
+  void do_again();
+
  private:
   void confirm_directory();
   void press_label(const MouseEvent& event);
@@ -217,11 +229,12 @@ class Form1 {
   /// Says in the status line which paths count as missing for want of the right to look.
   void say_unseen();
 
-  /// Runs what may change the tables. Then the selections in use are marked anew, and where career saves
-  /// would now go home to another folder the status line says so.
+  /// Runs what may change the tables. Then the change can be taken back, the selections in use are marked
+  /// anew, and where career saves would now go home to another folder the status line says so.
   void change_tables(const std::function<void()>& change);
 
   Version version_;
+  TableHistory history_{game, plane};
   DragOrigin drag_;
   bool told_of_locks_ = false;  ///< that a disk knows none
 };

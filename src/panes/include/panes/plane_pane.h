@@ -69,6 +69,9 @@ class PlanePane {
   /// Shows the table after the clean-up has emptied it. The group stays but is not shown.
   void show_emptied();
 
+  /// Shows what was put into the table from outside, with this row the current one.
+  void show_changed(int row);
+
   /// Makes the table's captions say what it holds, after something else has changed it.
   void refresh();
 

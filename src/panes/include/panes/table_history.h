@@ -1,0 +1,65 @@
+// What was changed in the two tables since the start, so that it can be taken back and done again.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "panes/game_pane.h"
+#include "panes/plane_pane.h"
+
+namespace vorlund {
+
+/// Steps of the game table, of the plane table and of its flight-model group, in memory alone: no file is
+/// touched. Only the rows that a step has changed are kept.
+class TableHistory {
+ public:
+  /// Both outlive the history.
+  TableHistory(GamePane& game, PlanePane& plane) : game_(game), plane_(plane) {}
+
+  /// Forgets all steps; what the tables hold now is the beginning.
+  void begin();
+
+  /// Takes what differs from the step before as a new step, and forgets those that were taken back. `what`
+  /// says what was done; "" for what the player did not do, which goes back and forth with the step before
+  /// it. Where nothing differs there is no step.
+  void note(std::string_view what);
+
+  /// Takes the last step back, or does the one again that was taken back last, and makes the changed row the
+  /// current one. Returns what the step was; "" where there is none, and nothing is changed.
+  std::string take_back();
+  std::string do_again();
+
+ private:
+  using Rows = std::vector<std::vector<std::string>>;
+
+  /// The rows from `first` on that a step has replaced.
+  struct Change {
+    std::size_t first = 0;
+    Rows before;
+    Rows after;
+    [[nodiscard]] bool any() const { return !before.empty() || !after.empty(); }
+  };
+  struct Step {
+    std::string what;
+    Change game;
+    Change plane;
+    std::string group_before;
+    std::string group_after;
+  };
+  enum class Direction { kBack, kForth };
+
+  static Change change_between(const Rows& before, const CellTable& after);
+  void apply(const Step& step, Direction direction);
+
+  GamePane& game_;
+  PlanePane& plane_;
+  Rows game_rows_;  ///< as the last step left them
+  Rows plane_rows_;
+  std::string group_;
+  std::vector<Step> steps_;
+  std::size_t done_ = 0;  ///< steps that are not taken back
+};
+
+}  // namespace vorlund

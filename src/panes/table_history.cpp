@@ -1,0 +1,111 @@
+// Finds the rows that a step has changed, and puts them back.
+#include "panes/table_history.h"
+
+#include <algorithm>
+#include <span>
+#include <utility>
+
+namespace vorlund {
+
+namespace {
+
+using Rows = std::vector<std::vector<std::string>>;
+
+Rows cells_of(const CellTable& table) {
+  Rows rows;
+  rows.reserve(table.rows.size());
+  for (const CellTable::Row& row : table.rows) rows.push_back(row.cells);
+  return rows;
+}
+
+/// Replaces `replaced` rows from `first` on.
+void put(CellTable& table, Rows& kept, std::size_t first, std::size_t replaced, const Rows& rows) {
+  const auto exchange = [&](auto& all, auto make) {
+    const auto at = all.erase(all.begin() + static_cast<std::ptrdiff_t>(first),
+                              all.begin() + static_cast<std::ptrdiff_t>(first + replaced));
+    std::transform(rows.begin(), rows.end(), std::inserter(all, at), make);
+  };
+  exchange(table.rows, [](const auto& cells) { return CellTable::Row{cells}; });
+  exchange(kept, [](const auto& cells) { return cells; });
+}
+
+}  // namespace
+
+void TableHistory::begin() {
+  steps_.clear();
+  done_ = 0;
+  game_rows_ = cells_of(game_.G2);
+  plane_rows_ = cells_of(plane_.G1);
+  group_ = plane_.G1.flight_model_group;
+}
+
+TableHistory::Change TableHistory::change_between(const Rows& before, const CellTable& after) {
+  const std::size_t shared = std::min(before.size(), after.rows.size());
+  std::size_t first = 0;
+  while (first < shared && before[first] == after.rows[first].cells) ++first;
+  std::size_t last = 0;
+  while (last < shared - first &&
+         before[before.size() - 1 - last] == after.rows[after.rows.size() - 1 - last].cells) {
+    ++last;
+  }
+  Change change{first, {}, {}};
+  for (std::size_t row = first; row + last < before.size(); ++row) change.before.push_back(before[row]);
+  for (std::size_t row = first; row + last < after.rows.size(); ++row) {
+    change.after.push_back(after.rows[row].cells);
+  }
+  return change;
+}
+
+void TableHistory::note(std::string_view what) {
+  Step step{std::string(what), change_between(game_rows_, game_.G2), change_between(plane_rows_, plane_.G1),
+            group_, plane_.G1.flight_model_group};
+  if (!step.game.any() && !step.plane.any() && step.group_before == step.group_after) return;
+  if (step.game.any()) game_rows_ = cells_of(game_.G2);
+  if (step.plane.any()) plane_rows_ = cells_of(plane_.G1);
+  group_ = step.group_after;
+  steps_.resize(done_);
+  steps_.push_back(std::move(step));
+  ++done_;
+}
+
+std::string TableHistory::take_back() {
+  std::size_t wanted = done_;
+  while (wanted > 0 && steps_[wanted - 1].what.empty()) --wanted;
+  if (wanted == 0) return {};
+  while (done_ >= wanted) apply(steps_[--done_], Direction::kBack);
+  return steps_[done_].what;
+}
+
+std::string TableHistory::do_again() {
+  if (done_ == steps_.size()) return {};
+  const std::string what = steps_[done_].what;
+  do {
+    apply(steps_[done_++], Direction::kForth);
+  } while (done_ < steps_.size() && steps_[done_].what.empty());
+  return what;
+}
+
+void TableHistory::apply(const Step& step, Direction direction) {
+  const bool back = direction == Direction::kBack;
+  const auto replace = [back](CellTable& table, Rows& kept, const Change& change) {
+    const Rows& there = back ? change.after : change.before;
+    const Rows& wanted = back ? change.before : change.after;
+    put(table, kept, change.first, there.size(), wanted);
+    return wanted.empty() ? 0 : static_cast<int>(change.first);  // no other row shall be taken for it
+  };
+  if (step.game.any()) {
+    const int row = replace(game_.G2, game_rows_, step.game);
+    game_.G2.g2update();
+    game_.G2.select(row);
+  }
+  if (step.plane.any()) {
+    const int row = replace(plane_.G1, plane_rows_, step.plane);
+    plane_.show_changed(row);
+  }
+  if (step.group_before != step.group_after) {
+    group_ = back ? step.group_before : step.group_after;
+    plane_.set_flight_model_group(group_);
+  }
+}
+
+}  // namespace vorlund
