@@ -177,11 +177,17 @@ class Installation {
 }  // namespace
 
 std::string AircraftSummary::text() const {
-  std::string text = counted(slots, "slot", "slots") + ", " + counted(copied, "file", "files") + " copied";
-  if (unchanged > 0) text += ", " + std::to_string(unchanged) + " already in place";
-  text += ", " + counted(records, "aircraft record", "aircraft records") + " and " +
-          counted(menus, "picture menu", "picture menus") + " written";
-  if (!remarks.empty()) text += ", " + counted(remarks.size(), "remark", "remarks");
+  std::string text;
+  const auto say = [&text](std::uint64_t count, const std::string& words) {
+    if (count > 0) text.append(text.empty() ? "" : ", ").append(words);
+  };
+  say(slots, counted(slots, "slot", "slots"));
+  say(copied, counted(copied, "file", "files") + " copied");
+  say(unchanged, counted(unchanged, "file", "files") + " already in place");
+  say(records, counted(records, "aircraft record", "aircraft records") + " written");
+  say(menus, counted(menus, "picture menu", "picture menus") + " written");
+  if (text.empty()) text = "There was nothing to install";
+  say(remarks.size(), counted(remarks.size(), "remark", "remarks"));
   for (const std::string& remark : remarks) text += "\n" + remark;
   return text;
 }

@@ -56,6 +56,10 @@ std::string encode_text(std::string_view text) {
   return bytes;
 }
 
+bool can_spell(std::string_view text) {
+  return decode_text(encode_text(text)) == text;
+}
+
 const CodePageTable& windows_1252_table() {
   static const CodePageTable table = [] {
     CodePageTable filled{};

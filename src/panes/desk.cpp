@@ -3,6 +3,9 @@
 
 #include <utility>
 
+#include "base/code_page.h"
+#include "base/text.h"
+
 namespace vorlund {
 
 void SharedLabels::pane_hidden() {
@@ -21,6 +24,12 @@ void SharedLabels::hide_slot_labels() {
 
 void Desk::say_too(std::string_view text) {
   status_line.caption.append(status_line.caption.empty() ? "" : "\n").append(text);
+}
+
+void Desk::say_spelling(std::string_view name) {
+  if (can_spell(name)) return;
+  say_too("No record can spell " + quoted(name) + ": it will be remembered as " +
+          quoted(decode_text(encode_text(name))) + " and not found at the next start");
 }
 
 void Desk::show_in_front(Frame& frame) {

@@ -80,6 +80,9 @@ void FlightModelBrowser::use_flight_model() {
     match_skins(flight_model);
   } else if (plane_.is_set(PlaneOption::kEditMode) || plane_.is_set(PlaneOption::kFindFlightModel)) {
     desk_.say(put_into_row(flight_model));
+    desk_.say_spelling(flight_model);
+  } else {
+    desk_.say("Nothing was changed: choose above the table what a click in the list does");
   }
 }
 
@@ -99,6 +102,8 @@ void FlightModelBrowser::select_plane_code(int index) {
   }
   table.show_row(table.current_row);
   table.set_cell(table.current_row, PlaneTable::kRecordNumber, std::to_string(index));
+  desk_.say("PlnDat of slot " + table.cell(table.current_row, PlaneTable::kSlot) + " is now " +
+            std::to_string(index));
 }
 
 void FlightModelBrowser::apply_matched_skin() {

@@ -94,9 +94,26 @@ void Form1::Form_Load() {
   history_.begin();
 }
 
+void Form1::open_directory(int index) {
+  desk.directory.open_folder(index);
+  desk.say("The game folder is now " + quoted(desk.directory.Label16.caption));
+  say_of_directory();
+}
+
 void Form1::confirm_directory() {
   desk.directory.confirm();
   desk.say("Choose from the menu on the left");
+  say_of_directory();
+}
+
+void Form1::say_of_directory() {
+  const GameFolder folder = desk.game();
+  if (!folder.files.is_there(folder.path(kGameProgram))) {
+    desk.say_too("There is no \"eaw.exe\" in it: it is no folder of the game");
+  }
+  if (!folder.files.FolderExists(folder.path(kStore))) {
+    desk.say_too("There is no \"~Vorlund\" in it: there is nothing to choose from");
+  }
 }
 
 void Form1::press_label(const MouseEvent& event) {
@@ -125,7 +142,7 @@ void Form1::release_menu_entry(int index, const MouseEvent& event) {
   if (Label6.visible) hide_title();
   if (event.shift == MouseEvent::kShiftKey) {
     entry.visible = false;
-    return;
+    return desk.say(quoted(entry.caption) + " is hidden until the next start");
   }
   if (dragged(event, entry)) return;
   if (index == 3) return open_set_ups();
@@ -145,7 +162,6 @@ void Form1::release_menu_entry(int index, const MouseEvent& event) {
 void Form1::open_set_ups() {
   selection.remove_group_labels();
   load_pane.open();
-  desk.say("Choose a game set, an aircraft set, or both");
 }
 
 void Form1::open_aircraft_work() {
@@ -176,13 +192,16 @@ void Form1::open_flight_model_choice() {
 
 void Form1::say_next(const FolderList& groups, std::string_view store, std::string_view next) {
   const std::string folder(store.substr(1));
-  desk.say(groups.names.empty() ? "There is nothing to choose from in \"" + folder + "\""
-                                : std::string(next));
+  const bool there = !groups.names.empty() || desk.files.FolderExists(groups.path);
+  desk.say(!there                 ? "There is no folder " + quoted(folder)
+           : groups.names.empty() ? "There is nothing to choose from in " + quoted(folder)
+                                  : std::string(next));
 }
 
 void Form1::start_game() {
   desk.files.start_program(desk.game().path(kGameProgram), desk.directory.Label16.caption);
   minimise();
+  desk.say("The game was started");
 }
 
 void Form1::delete_mission_files() {
@@ -211,6 +230,8 @@ void Form1::Label10_Click(int index) {
   if (index == 0) plane.hide();
   if (index == 1) game.hide();
   if (index == 2) selection.hide_for_table();
+  const std::string& shows = desk.labels.Label2.caption;
+  desk.say(shows.empty() ? "" : quoted(shows) + " brings it back");
 }
 
 void Form1::G1_MouseDown(int row, int column, const MouseEvent& event) {
@@ -223,7 +244,7 @@ void Form1::G1_MouseDown(int row, int column, const MouseEvent& event) {
 void Form1::install_aircraft() {
   plane.install(menu_editor.menu);
   menu_editor.select_country(Country::kGerman);
-  menu_editor.refresh();
+  menu_editor.refresh(Country::kGerman);
   save_pane.hide();
 }
 
@@ -243,15 +264,16 @@ void Form1::load_set_ups() {
     shows ? game.show() : game.install();
     if (!shows && loads_planes) desk.say(said + "\n" + desk.status_line.caption);
   }
-  history_.note(joined_and(loads_planes ? quoted(load_pane.Label20.caption) : "",
-                           loads_games ? quoted(load_pane.Label21.caption) : "") +
-                " loaded into the tables");
-  load_pane.hide();
+  const std::string loaded = joined_and(loads_planes ? quoted(load_pane.Label20.caption) : "",
+                                        loads_games ? quoted(load_pane.Label21.caption) : "") +
+                             " loaded into the tables";
+  history_.note(loaded);
+  load_pane.Frame2.visible = false;
+  if (!loads_planes && !loads_games) return desk.say("Nothing was loaded: no set-up was chosen");
+  if (shows) desk.say(loaded);
   // Without a running work "Label2" would bring no table back: then it is that of the set-up last loaded.
   if (!desk.labels.Label2.caption.empty() || selection.shows_groups()) return;
-  if (loads_games || loads_planes) {
-    selection.work_on(loads_games ? PaneMode::kGameSet : PaneMode::kAircraftSet);
-  }
+  selection.work_on(loads_games ? PaneMode::kGameSet : PaneMode::kAircraftSet);
 }
 
 void Form1::choose_possible_skin() {
@@ -294,6 +316,28 @@ void Form1::change_tables(const std::function<void()>& change) {
   desk.say_too(
       which + " in \"Savedata\" would now " +
       (home.empty() ? "stay there: no row names their home" : "go home to " + home + " at \"Clean Up\""));
+}
+
+std::string Form1::what_clean_up_would_do() {
+  try {
+    const GameFolder folder = desk.game();
+    const std::size_t saves = count_career_saves(folder);
+    const std::size_t files = loose_files(folder).size();
+    const std::string home = careers_home_name(game.G2);
+    std::string text;
+    if (saves > 0) {
+      text = home.empty() ? "Leaves " + counted(saves, "career save", "career saves") +
+                                " where they are: no row names their home"
+                          : "Brings " + counted(saves, "career save", "career saves") + " home to " + home;
+      text += ", and ";
+    }
+    text += files == 0 ? "finds no loose file to delete"
+                       : "deletes " + counted(files, "loose file", "loose files");
+    if (!desk.files.take_unseen().empty()) text += ", as far as there is the right to look";
+    return "\"Clean Up\" " + text + "; both tables are emptied";
+  } catch (const std::exception& error) {
+    return std::string("What \"Clean Up\" would do can't be told: ") + error.what();
+  }
 }
 
 void Form1::take_back() {

@@ -6,6 +6,11 @@
 
 namespace vorlund {
 
+void GamePane::select_row(int row) {
+  G2.select(row);
+  desk_.say("");
+}
+
 void GamePane::install() {
   const Working working(desk_, GameLoad);
   const GameSetSummary summary = process_game_set(desk_.game(), desk_.status, G2);

@@ -7,6 +7,9 @@ namespace vorlund {
 
 namespace {
 
+constexpr std::array<const char*, 3> kMenuNames = {"British menu, picplnb.mnu", "American menu, picplna.mnu",
+                                                   "German menu, picplng.mnu"};
+
 /// The value of each byte in decimal, a blank before each.
 std::string byte_numbers(std::string_view bytes) {
   std::string numbers;
@@ -30,10 +33,16 @@ void MenuEditor::select_country(Country country) {
 
 void MenuEditor::set_name(int index, std::string_view text) {
   menu.set_name(static_cast<std::size_t>(index), text);
-  refresh();
+  show_bytes();
 }
 
-void MenuEditor::refresh() {
+void MenuEditor::refresh(Country country) {
+  MenuShown.caption = std::string(menu.header.empty() ? "There is no " : "Shown: ")
+                          .append(kMenuNames[static_cast<std::size_t>(country)]);
+  show_bytes();
+}
+
+void MenuEditor::show_bytes() {
   hedlab.caption = byte_numbers(menu.header);
   for (std::size_t index = 0; index < PictureMenu::kEntries; ++index) {
     const PictureMenu::Entry& entry = menu.entries[index];
@@ -44,9 +53,17 @@ void MenuEditor::refresh() {
 }
 
 void MenuEditor::show() {
-  if (menu.header.empty()) pmenread(desk_.game(), selected_country(), menu);
-  refresh();
+  if (menu.header.empty()) {
+    pmenread(desk_.game(), selected_country(), menu);
+    refresh(selected_country());
+  }
   desk_.show_in_front(PMenFrame);
+  desk_.say("");
+}
+
+void MenuEditor::hide() {
+  PMenFrame.visible = false;
+  desk_.say("");
 }
 
 }  // namespace vorlund

@@ -2,6 +2,7 @@
 #include "panes/plane_pane.h"
 
 #include "aircraft/plane_record.h"
+#include "disk/copier.h"
 #include "panes/set_actions.h"
 
 namespace vorlund {
@@ -17,6 +18,7 @@ void PlanePane::set_option(PlaneOption option) {
   for (Choice& choice : Option1) choice.checked = false;
   Option1[static_cast<std::size_t>(option)].checked = true;
   option == PlaneOption::kEditMode ? show_plane_codes() : show_flight_models();
+  desk_.say("");
 }
 
 void PlanePane::install(PictureMenu& menu) {
@@ -42,17 +44,31 @@ void PlanePane::clear_selected_row() {
 void PlanePane::switch_view() {
   G1.switch_view();
   refresh();
+  const std::size_t shown = G1.shown_slots().size();
+  desk_.say(G1.shows_all ? "All slots are shown"
+            : shown == 0 ? "No slot is in use"
+                         : counted(shown, "slot that is in use is", "slots that are in use are") + " shown");
+}
+
+void PlanePane::select_cell(int row, int column) {
+  G1.select(row, column);
+  desk_.say("");
 }
 
 bool PlanePane::click_cell(int row, int column) {
   const bool edits = is_set(PlaneOption::kEditMode);
   if (edits) show_plane_codes();
-  G1.select(row, column);
+  select_cell(row, column);
   if (!edits) return false;
   G1.selected_slot_row = G1.current_row;
   if (G1.current_row == 0) return false;
   if (column == PlaneTable::kRegion || column == PlaneTable::kSkinFolder) return true;
+  const std::string before = G1.cell(row, column);
   G1.cycle(row, column);
+  if (G1.cell(row, column) != before) {
+    desk_.say(G1.cell(0, column) + " of slot " + G1.cell(row, PlaneTable::kSlot) + " is now " +
+              G1.cell(row, column));
+  }
   return false;
 }
 

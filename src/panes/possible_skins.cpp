@@ -7,6 +7,7 @@
 #include "base/code_page.h"
 #include "base/plain_name.h"
 #include "base/text.h"
+#include "disk/copier.h"
 #include "disk/listing.h"
 #include "disk/store.h"
 
@@ -31,7 +32,9 @@ void PossibleSkins::FillPossibleSkins() {
   Label37.caption = std::to_string(table.current_row - 1);
   List4.items = skins_for_slot(decode_text(desk_.files.read_file(desk_.game().path(kSkinList))), slot);
   open();
-  if (List4.items.empty()) desk_.say("No skin in the skin list is made for slot " + slot);
+  const std::size_t skins = List4.items.size();
+  desk_.say((skins == 0 ? "No skin" : counted(skins, "skin", "skins")) + " in the skin list " +
+            (skins > 1 ? "are" : "is") + " made for slot " + slot);
 }
 
 void PossibleSkins::open() {
@@ -53,6 +56,7 @@ void PossibleSkins::show_nothing() {
 
 void PossibleSkins::select(int index) {
   List4.selected = index;
+  desk_.say("");
   show_entry();
 }
 
@@ -115,6 +119,8 @@ void PossibleSkins::choose() {
   }
   last_choice_ = describe_choice(row, asked_slot);
   desk_.say(last_choice_);
+  desk_.say_spelling(Label31.caption);
+  desk_.say_spelling(Label32.caption);
   plane_.show();
 }
 
@@ -137,12 +143,14 @@ std::string PossibleSkins::describe_choice(int row, const std::string& asked_slo
 void PossibleSkins::hide() {
   Frame4.visible = false;
   plane_.show();
+  desk_.say("");
 }
 
 void PossibleSkins::empty_list() {
   List4.items.clear();
   List4.selected = -1;
   Frame4.visible = true;
+  desk_.say("The list was emptied");
 }
 
 }  // namespace vorlund

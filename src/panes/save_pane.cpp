@@ -1,10 +1,13 @@
 // Event handlers of the save pane.
 #include "panes/save_pane.h"
 
+#include <algorithm>
 #include <string>
 
 #include "aircraft/plane_record.h"
+#include "base/code_page.h"
 #include "base/plain_name.h"
+#include "base/text.h"
 #include "disk/store.h"
 #include "gamesets/game_record.h"
 
@@ -18,6 +21,7 @@ void SavePane::open(SaveKind save_kind) {
   Text2.visible = true;
   refusal.visible = false;
   desk_.show_in_front(SaveFrame);
+  desk_.say("Type a name, or click on one to replace it");
 }
 
 void SavePane::take_name(int index) {
@@ -25,11 +29,13 @@ void SavePane::take_name(int index) {
   File5.selected = index;
   Text2.text = File5.names[static_cast<std::size_t>(index)];
   refusal.visible = false;
+  desk_.say(quoted(Text2.text) + " will be replaced");
 }
 
 void SavePane::type(std::string_view text) {
   Text2.text = text;
   refusal.visible = false;
+  desk_.say("");
 }
 
 std::string SavePane::folder() const {
@@ -45,15 +51,32 @@ void SavePane::save() {
       return;
     }
     const std::string path = folder() + "\\" + name;
+    const bool replaced = desk_.files.FileExists(path);
     if (kind == SaveKind::kGameSet) {
       write_game_set(desk_.files, path, game_.G2);
     } else {
       write_plane_set(desk_.files, path, plane_.G1);
     }
-    desk_.say("Saved as \"" + name + "\"");
+    desk_.say(replaced ? quoted(name) + " was replaced" : "Saved as " + quoted(name));
+    say_spelling();
+  } else {
+    desk_.say("Nothing was saved: no name was given");
   }
   refusal.visible = false;
   SaveFrame.visible = false;
+}
+
+void SavePane::say_spelling() {
+  const CellTable& table = kind == SaveKind::kGameSet ? static_cast<const CellTable&>(game_.G2) : plane_.G1;
+  for (const CellTable::Row& row : table.rows) {
+    const auto cell = std::find_if_not(row.cells.begin(), row.cells.end(), can_spell);
+    if (cell != row.cells.end()) return desk_.say_spelling(*cell);
+  }
+}
+
+void SavePane::hide() {
+  SaveFrame.visible = false;
+  desk_.say("");
 }
 
 }  // namespace vorlund

@@ -1,11 +1,15 @@
 // Group labels, selection labels, and what choosing a selection puts into the tables.
 #include "panes/selection_pane.h"
 
+#include <algorithm>
+
+#include "aircraft/flight_model_folder.h"
 #include "aircraft/plane_codes.h"
 #include "aircraft/skin_code.h"
 #include "base/code_page.h"
 #include "base/plain_name.h"
 #include "base/text.h"
+#include "disk/copier.h"
 #include "disk/store.h"
 
 namespace vorlund {
@@ -19,6 +23,7 @@ constexpr int kGroupStep = 500;
 constexpr int kGroupColumn = 3000;
 constexpr int kRoomBelowGroups = 2000;
 constexpr int kSelectionStep = 450;
+constexpr std::size_t kNamedSlots = 6;  // of those that are named one by one
 constexpr std::uint64_t kLongestDescription = 1ULL << 20;
 
 }  // namespace
@@ -74,6 +79,8 @@ void SelectionPane::open_group(int index) {
     plane_.set_flight_model_group(group);
     for (Label& label : Label1) label.visible = false;
     desk_.say("The flight models are now taken from \"" + group + "\"");
+    say_missing_models();
+    desk_.say_spelling(group);
     return;
   }
   Frame3.place = screen;
@@ -91,6 +98,26 @@ void SelectionPane::open_group(int index) {
   plane_.Frame1.visible = false;
   game_.GameFrame.visible = false;
   ShowSelected();
+  desk_.say(RegionDir.names.empty() ? quoted(group) + " has no folder to choose" : "");
+}
+
+/// Of the slots that have a flight model, those whose folder the current group does not have.
+void SelectionPane::say_missing_models() {
+  std::vector<std::string> models;
+  const std::string folder = flight_model_group_folder(desk_.game(), plane_.G1);
+  if (!folder.empty()) models = list_folders(desk_.files, folder);
+  std::size_t missing = 0;
+  std::string slots;
+  for (int row = 1; row < plane_.G1.row_count(); ++row) {
+    const std::string& wanted = plane_.G1.cell(row, PlaneTable::kScriptFolder);
+    const auto is_wanted = [&wanted](const std::string& name) { return same_name(name, wanted); };
+    if (wanted.empty() || std::any_of(models.begin(), models.end(), is_wanted)) continue;
+    if (++missing <= kNamedSlots)
+      slots += (slots.empty() ? "" : ", ") + plane_.G1.cell(row, PlaneTable::kSlot);
+  }
+  if (missing == 0) return;
+  desk_.say_too(counted(missing, "slot lacks its flight model", "slots lack their flight models") +
+                " in it: " + slots + (missing > kNamedSlots ? ", ..." : ""));
 }
 
 void SelectionPane::list_group(const std::string& group) {
@@ -110,6 +137,7 @@ void SelectionPane::list_group(const std::string& group) {
 }
 
 void SelectionPane::show_selection(int index) {
+  desk_.say("");
   SharedLabels& labels = desk_.labels;
   current_selection = SelLab.at(static_cast<std::size_t>(index)).caption;
   const std::string folder = group_folder() + "\\" + current_selection;
@@ -170,13 +198,18 @@ void SelectionPane::choose_skin() {
     return;
   }
   const int row = static_cast<int>(leading_number(number)) + 1;
-  if (row >= plane_.G1.row_count()) return;
+  if (row >= plane_.G1.row_count()) {
+    desk_.say(quoted(current_selection) + " was not put anywhere: the plane table has no row for its slot");
+    return;
+  }
   plane_.G1.set_cell(row, PlaneTable::kRegion, current_group);
   plane_.G1.set_cell(row, PlaneTable::kSkinFolder, current_selection);
   plane_.G1.set_cell(row, PlaneTable::kRecordNumber, number);
   plane_.G1.g1update();
   plane_.refresh();
   desk_.say("Slot " + plane_.G1.cell(row, PlaneTable::kSlot) + " now wears \"" + current_selection + "\"");
+  desk_.say_spelling(current_group);
+  desk_.say_spelling(current_selection);
 }
 
 void SelectionPane::choose_game_folder() {
@@ -196,9 +229,15 @@ void SelectionPane::choose_game_folder() {
     chosen = true;
   }
   game_.G2.g2update();
-  desk_.say(chosen
-                ? "\"" + current_selection + "\" now stands in the game table for \"" + current_group + "\""
-                : "Nothing was chosen: the game table has no row for the group \"" + current_group + "\"");
+  if (!chosen) {
+    desk_.say("Nothing was chosen: the game table has no row for the group " + quoted(current_group));
+    desk_.say_too("With the program closed, add a line " + quoted(current_group) +
+                  " and a TAB to \"~Vorlund\\CurrentGameSet.txt\"");
+    return;
+  }
+  desk_.say(quoted(current_selection) + " now stands in the game table for " + quoted(current_group));
+  desk_.say_spelling(current_group);
+  desk_.say_spelling(current_selection);
 }
 
 void SelectionPane::ShowSelected() {
@@ -218,6 +257,7 @@ void SelectionPane::ShowSelected() {
 void SelectionPane::bring_table_to_front() {
   if (mode == PaneMode::kAircraftSet) plane_.show();
   if (mode == PaneMode::kGameSet) game_.show();
+  desk_.say("");
 }
 
 void SelectionPane::show_table() {
@@ -227,6 +267,11 @@ void SelectionPane::show_table() {
   bring_table_to_front();
   if (mode == PaneMode::kAircraftSet) plane_.show_flight_models();
   desk_.labels.Label2.visible = false;
+}
+
+void SelectionPane::hide() {
+  Frame3.visible = false;
+  desk_.say("");
 }
 
 void SelectionPane::hide_for_table() {

@@ -72,9 +72,30 @@ void ActionLabel::apply(const Label& label) {
 }
 
 QSize ActionLabel::sizeHint() const {
-  const QFontMetrics metrics(shown_font());
+  QFont widest = font();
+  widest.setBold(true);  // a caption that is marked or golden for a while keeps its size
+  const QFontMetrics metrics(widest);
   if (look_ == Look::kHelp) return {metrics.averageCharWidth() * 40, metrics.height() * 2};
   return {metrics.horizontalAdvance(text()) + 2 * metrics.height(), metrics.height() * 2};
+}
+
+/// The program's own captions are never cut, names from the store are.
+QSize ActionLabel::minimumSizeHint() const {
+  const bool own = look_ == Look::kButton || look_ == Look::kPrimary;
+  return own ? sizeHint() : QAbstractButton::minimumSizeHint();
+}
+
+void ActionLabel::set_look(Look look) {
+  if (look_ == look) return;
+  look_ = look;
+  updateGeometry();
+  update();
+}
+
+void ActionLabel::set_dimmed(bool dimmed) {
+  if (dimmed_ == dimmed) return;
+  dimmed_ = dimmed;
+  update();
 }
 
 int ActionLabel::heightForWidth(int width) const {
@@ -121,6 +142,7 @@ bool ActionLabel::wraps() const {
 }
 
 bool ActionLabel::event(QEvent* event) {
+  if (event->type() == QEvent::ToolTip && tool_tip_now) setToolTip(theme::literal(tool_tip_now()));
   const bool cut = !wraps() && QFontMetrics(shown_font()).horizontalAdvance(text()) > text_area().width();
   if (event->type() == QEvent::ToolTip && cut && toolTip().isEmpty()) {
     QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), theme::literal(text()), this);
@@ -132,6 +154,7 @@ bool ActionLabel::event(QEvent* event) {
 void ActionLabel::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   const bool working = window()->property(theme::kWorkingProperty).toBool();
+  if (dimmed_ && !hasFocus()) painter.setOpacity(kDimmed);
   if (working && text() != QLatin1String(kWorkingCaption)) painter.setOpacity(kDimmed);
   const QColor edge = look_ == Look::kPlate ? theme::kPlateEdge : QColor(0, 0, 0, 0);
   // A golden edge would not be seen round the golden main command.

@@ -31,6 +31,7 @@ DirectoryView::DirectoryView(Form1& form, const Perform& perform, QWidget* paren
   });
   folders_->setObjectName("Dir6");
   theme::keep_font(*folders_);
+  folders_->setToolTip("A double click opens a folder and makes it the game folder");
   folders_->setAccessibleName("Folders around the game directory");
   QObject::connect(folders_, &QListWidget::itemActivated, panel_, [this](QListWidgetItem* item) {
     run(&Form1::Dir6_DblClick, item->data(kFolderRole).toInt());

@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QStyle>
 #include <algorithm>
 #include <numeric>
 
@@ -18,6 +19,8 @@ namespace {
 constexpr int kPadding = 2 * EntryDelegate::kMargin + 3;  // of headers and cells, with the grid line
 constexpr int kMeasuredRows = 200;
 constexpr std::size_t kMeasuredBytes = 100;
+constexpr int kLeastRows = 4;
+constexpr auto kLongestShortValue = "MMMMMMMM";
 
 }  // namespace
 
@@ -71,6 +74,7 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
 QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {
   if (orientation != Qt::Horizontal) return {};
   if (role == Qt::DisplayRole) return QString::fromStdString(grid_.cell(0, section));
+  if (role == Qt::ToolTipRole && explains) return explains(section);
   if (role == Qt::TextAlignmentRole) return int(Qt::AlignLeft | Qt::AlignVCenter);
   return {};
 }
@@ -124,8 +128,9 @@ void GridView::fit_columns() {
   }
 }
 
-void GridView::share_columns() {
+void GridView::share_columns(std::vector<int> short_columns) {
   sharing_ = Sharing::kOn;
+  short_columns_ = std::move(short_columns);
   horizontalHeader()->setStretchLastSection(false);
   connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this] {
     if (!applying_) sharing_ = Sharing::kOff;
@@ -134,6 +139,20 @@ void GridView::share_columns() {
 
 int GridView::header_width(int column) const {
   return fontMetrics().horizontalAdvance(QString::fromStdString(grid_.cell(0, column))) + kPadding;
+}
+
+/// Short values come from other players too: one that is not short is cut all the same.
+int GridView::least_width(int column) const {
+  const bool is_short =
+      std::find(short_columns_.begin(), short_columns_.end(), column) != short_columns_.end();
+  const int most = fontMetrics().horizontalAdvance(kLongestShortValue) + kPadding;
+  return std::max(header_width(column), is_short ? std::min(wanted_width(column), most) : 0);
+}
+
+QSize GridView::minimumSizeHint() const {
+  const int rows =
+      horizontalHeader()->sizeHint().height() + kLeastRows * verticalHeader()->defaultSectionSize();
+  return {least_total_ + 2 * frameWidth() + style()->pixelMetric(QStyle::PM_ScrollBarExtent), rows};
 }
 
 /// Records come from other players too: of a very long table only the beginning is measured, and of a very
@@ -149,13 +168,18 @@ int GridView::wanted_width(int column) const {
 }
 
 void GridView::share_room() {
-  if (sharing_ == Sharing::kOff || grid_.columns == 0 || !isVisible()) return;
+  if (sharing_ == Sharing::kOff || grid_.columns == 0) return;
   std::vector<int> least;
   std::vector<int> widths;
   for (int column = 0; column < grid_.columns; ++column) {
-    least.push_back(header_width(column));
+    least.push_back(least_width(column));
     widths.push_back(std::max(least.back(), wanted_width(column)));
   }
+  if (const int total = std::accumulate(least.begin(), least.end(), 0); total != least_total_) {
+    least_total_ = total;
+    updateGeometry();
+  }
+  if (!isVisible()) return;
   int spare = viewport()->width() - std::accumulate(widths.begin(), widths.end(), 0);
   for (; spare < 0; ++spare) {
     int* longest = nullptr;
@@ -214,6 +238,10 @@ void GridView::keyPressEvent(QKeyEvent* event) {
   const QModelIndex before = currentIndex();
   if (activates) {
     if (before.isValid() && on_click) on_click(model_.grid_row(before.row()), before.column());
+    return;
+  }
+  if (event->key() == Qt::Key_Delete && on_delete) {
+    on_delete();
     return;
   }
   QTableView::keyPressEvent(event);

@@ -100,6 +100,10 @@ void ListView::keyPressEvent(QKeyEvent* event) {
     if (before.isValid() && on_select) on_select(before.row());
     return;
   }
+  if (event->key() == Qt::Key_Delete && on_delete) {
+    on_delete();
+    return;
+  }
   QListView::keyPressEvent(event);
   const QModelIndex now = currentIndex();
   if (now.isValid() && now != before && on_select) on_select(now.row());

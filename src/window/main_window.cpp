@@ -6,13 +6,16 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScreen>
+#include <QShortcut>
 #include <algorithm>
 
 #include "version.h"
+#include "window/accessibility.h"
 #include "window/action_label.h"
 #include "window/directory_view.h"
 #include "window/game_pane_view.h"
 #include "window/group_labels_view.h"
+#include "window/help_view.h"
 #include "window/load_pane_view.h"
 #include "window/menu_editor_view.h"
 #include "window/menu_view.h"
@@ -30,8 +33,13 @@ namespace {
 constexpr int kStatusHeight = 34;
 constexpr int kAroundStatus = 16;  // pixels above and below a status of several lines
 constexpr int kPaintEveryMilliseconds = 50;
-constexpr QSize kUsualSize{1280, 800};
+constexpr QSize kUsualSize{1800, 980};  // so large that both tables have room
 constexpr QSize kSmallestSize{960, 560};
+constexpr QSize kMostSkins{1320, 1000};
+constexpr QSize kMostLoad{560, 480};
+constexpr QSize kMostSave{400, 400};
+constexpr QSize kMostMenus{1080, 600};
+constexpr QSize kMostHelp{1000, 640};
 
 }  // namespace
 
@@ -41,6 +49,13 @@ MainWindow::MainWindow(FileSystem& files, std::function<void(const QString&)> re
   setObjectName("Form1");
   setWindowTitle("Vorlund");
   setMinimumSize(kSmallestSize);
+  speak_to_assistive_tools();
+  add_views();
+  add_status_bar();
+  add_keys();
+}
+
+void MainWindow::add_status_bar() {
   status_bar_ = new QWidget(this);
   status_bar_->setStyleSheet("background: #111820;");
   status_bar_->setAttribute(Qt::WA_StyledBackground);
@@ -54,6 +69,7 @@ MainWindow::MainWindow(FileSystem& files, std::function<void(const QString&)> re
   progress_text_->setTextFormat(Qt::PlainText);
   progress_bar_ = new QProgressBar(status_bar_);
   progress_bar_->setObjectName("Progress");
+  progress_bar_->setAccessibleName("Progress");
   progress_bar_->setRange(0, 1000);
   progress_bar_->setTextVisible(false);
   progress_bar_->setFixedSize(240, 14);
@@ -62,9 +78,11 @@ MainWindow::MainWindow(FileSystem& files, std::function<void(const QString&)> re
   layout->addWidget(status_text_, 1);
   layout->addWidget(progress_text_);
   layout->addWidget(progress_bar_);
+  layout->addWidget(help_ = new ActionLabel("HelpLabel", ActionLabel::Look::kRow, status_bar_));
+  help_->setToolTip("Explains mouse, keys and columns on one page (F1)");
+  help_->on_release = [this](const MouseEvent&) { perform([this] { form_->HelpLabel_Click(); }); };
   progress_bar_->hide();
   progress_text_->hide();
-  add_views();
 }
 
 MainWindow::~MainWindow() {
@@ -80,18 +98,46 @@ void MainWindow::add_views() {
     return raw;
   };
   const auto add_pane = [&](auto view, const Frame& shown) {
-    frames_.emplace_back(add(std::move(view))->frame(), &shown);
+    PaneView* pane = add(std::move(view));
+    frames_.emplace_back(pane, &shown);
+    return pane;
   };
-  add(std::make_unique<GroupLabelsView>(*form_, perform, this));
   menu_ = add(std::make_unique<MenuView>(*form_, perform, this));
+  add(std::make_unique<GroupLabelsView>(*form_, perform, this));
   add(std::make_unique<DirectoryView>(*form_, perform, this));
   add_pane(std::make_unique<SelectionPaneView>(*form_, perform, this), form_->selection.Frame3);
-  add_pane(std::make_unique<GamePaneView>(*form_, perform, this), form_->game.GameFrame);
-  add_pane(std::make_unique<PlanePaneView>(*form_, perform, this), form_->plane.Frame1);
+  game_view_ = add_pane(std::make_unique<GamePaneView>(*form_, perform, this), form_->game.GameFrame);
+  plane_view_ = add_pane(std::make_unique<PlanePaneView>(*form_, perform, this), form_->plane.Frame1);
   add_pane(std::make_unique<PossibleSkinsView>(*form_, perform, this), form_->possible_skins.Frame4);
   add_pane(std::make_unique<LoadPaneView>(*form_, perform, this), form_->load_pane.Frame2);
   add_pane(std::make_unique<SavePaneView>(*form_, perform, this), form_->save_pane.SaveFrame);
   add_pane(std::make_unique<MenuEditorView>(*form_, perform, this), form_->menu_editor.PMenFrame);
+  add_pane(std::make_unique<HelpView>(*form_, perform, this), form_->help.HelpFrame);
+}
+
+void MainWindow::add_keys() {
+  const auto on = [this](const QKeySequence& keys, void (Form1::*handler)()) {
+    auto* shortcut = new QShortcut(keys, this);
+    connect(shortcut, &QShortcut::activated, this,
+            [this, handler] { perform([&] { std::invoke(handler, *form_); }); });
+  };
+  on(Qt::CTRL | Qt::Key_Z, &Form1::take_back);
+  on(Qt::CTRL | Qt::Key_Y, &Form1::do_again);
+  on(Qt::CTRL | Qt::SHIFT | Qt::Key_Z, &Form1::do_again);
+  on(Qt::Key_F1, &Form1::HelpLabel_Click);
+}
+
+/// Escape closes the pane in front.
+void MainWindow::keyPressEvent(QKeyEvent* event) {
+  const auto behind = [](const auto& a, const auto& b) {
+    return std::pair(a.second->visible, a.second->depth) < std::pair(b.second->visible, b.second->depth);
+  };
+  const auto front = std::max_element(frames_.begin(), frames_.end(), behind);
+  if (event->key() == Qt::Key_Escape && front->second->visible) {
+    front->first->close();
+  } else {
+    QWidget::keyPressEvent(event);
+  }
 }
 
 bool MainWindow::start() {
@@ -101,8 +147,10 @@ bool MainWindow::start() {
   move(corner);
   started_ = true;
   perform([this] { form_->Form_Load(); });
-  if (!failed_) show();
-  return !failed_;
+  if (failed_) return false;
+  show();
+  findChild<QWidget*>("Label17")->setFocus();
+  return true;
 }
 
 void MainWindow::perform(const std::function<void()>& handler) {
@@ -180,20 +228,35 @@ void MainWindow::follow_requests() {
 
 void MainWindow::apply() {
   if (!started_) return;
-  form_->selection.screen = {0, 0, theme::twips(width()), theme::twips(height() - kStatusHeight)};
-  if (form_->selection.Frame3.visible) form_->selection.Frame3.place = form_->selection.screen;
-  for (const auto& view : views_) view->apply();
-  follow_panes();
   status_text_->setText(QString::fromStdString(form_->desk.status_line.caption));
   status_text_->setVisible(progress_bar_->isHidden());
+  help_->apply(form_->help.HelpLabel);
   place_status_bar();
+  place_panes();
+  for (const auto& view : views_) view->apply();
+  follow_panes();
+  menu_->show_whether_covered(table_is_covered(*form_));
   update();
+}
+
+void MainWindow::place_panes() {
+  const int status = status_bar_->height();
+  form_->selection.screen = {0, 0, theme::twips(width()), theme::twips(height() - status)};
+  if (form_->selection.Frame3.visible) form_->selection.Frame3.place = form_->selection.screen;
+  const QRect room = PaneLayout::room_in(size(), status);
+  layout_.place_tables(*plane_view_, form_->plane.Frame1, *game_view_, form_->game.GameFrame, room);
+  layout_.place(form_->possible_skins.Frame4, kMostSkins, room);
+  layout_.place(form_->load_pane.Frame2, kMostLoad, room);
+  layout_.place(form_->save_pane.SaveFrame, kMostSave, room);
+  layout_.place(form_->menu_editor.PMenFrame, kMostMenus, room);
+  layout_.place(form_->help.HelpFrame, kMostHelp, room);
 }
 
 /// As high as its text needs, up to half of the window; what has no room then is in the tooltip.
 void MainWindow::place_status_bar() {
   const QMargins margins = status_bar_->layout()->contentsMargins();
-  const int room = width() - margins.left() - margins.right();
+  const int room = width() - margins.left() - margins.right() - help_->sizeHint().width() -
+                   status_bar_->layout()->spacing();
   const int wanted = status_text_->isHidden() ? 0 : status_text_->heightForWidth(room) + kAroundStatus;
   const int high = std::clamp(wanted, kStatusHeight, std::max(kStatusHeight, height() / 2));
   status_text_->setToolTip(wanted > high ? theme::literal(status_text_->text()) : QString());
@@ -202,19 +265,19 @@ void MainWindow::place_status_bar() {
 
 /// Puts the panes in their order, and the focus where the user looks.
 void MainWindow::follow_panes() {
-  std::vector<std::pair<PaneFrame*, const Frame*>> sorted = frames_;
+  std::vector<std::pair<PaneView*, const Frame*>> sorted = frames_;
   std::stable_sort(sorted.begin(), sorted.end(),
                    [](const auto& a, const auto& b) { return a.second->depth < b.second->depth; });
   std::vector<int> order;
   std::vector<QWidget*> shown;
-  for (const auto& [widget, frame] : frames_) order.push_back(frame->depth);
-  for (const auto& [widget, frame] : sorted) {
-    if (frame->visible) shown.push_back(widget);
+  for (const auto& [view, frame] : frames_) order.push_back(frame->depth);
+  for (const auto& [view, frame] : sorted) {
+    if (frame->visible) shown.push_back(view->frame());
   }
   if (order != shown_order_) {
     shown_order_ = order;
-    for (const auto& [widget, frame] : sorted) {
-      widget->raise();
+    for (const auto& [view, frame] : sorted) {
+      view->frame()->raise();
       if (frame == &form_->selection.Frame3) menu_->raise_table_labels();
     }
     status_bar_->raise();

@@ -21,7 +21,6 @@ constexpr std::array<const char*, 4> kHeadings = {"", "Name in the menu", "Lengt
                                                   "Bytes carried unchanged"};
 constexpr int kPlaneNamesWidth = 168;
 constexpr int kSharedEntries = 9;  // the German menu has two more
-constexpr QSize kMostSize{1080, 540};
 
 }  // namespace
 
@@ -39,13 +38,18 @@ MenuEditorView::MenuEditorView(Form1& form, const Perform& perform, QWidget* par
   both->addLayout(make_names());
   auto* advice = hint("MenuHint", [] {
     return QString(
-        "Shown is the menu that was read last. A button only says which menu is read or written next: "
-        "\"Process!\" in the aircraft pane reads, renames and writes all three.");
+        "Typed names are not kept: \"Process!\" in the aircraft pane reads all three menus, puts the display "
+        "names into them and writes them. A button only says which menu is read next.");
   });
+  auto* foot = new QHBoxLayout;
+  foot->addWidget(advice, 1);
+  foot->addWidget(command("MenuHide", pane.MenuHide, Look::kButton, &Form1::MenuHide_Click,
+                          "Hides the menu editor (Escape)"));
+  frame_->content()->addWidget(text("MenuShown", pane.MenuShown, Tone::kStrong));
   frame_->content()->addWidget(countries);
   frame_->content()->addLayout(header);
   frame_->content()->addLayout(both, 1);
-  frame_->content()->addWidget(advice);
+  frame_->content()->addLayout(foot);
   // Whoever clicks on a text or beside a name box does not mean to hide the pane.
   for (QWidget* part : frame_->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
     part->setAttribute(Qt::WA_NoMousePropagation);
@@ -114,6 +118,7 @@ void MenuEditorView::make_entry(QGridLayout* grid, int index) {
   auto* name = new QLineEdit(board_);
   name->setObjectName(element_name("bmnutb", index));
   name->setAccessibleName(QStringLiteral("Name of entry %1").arg(index + 1));
+  name->setToolTip("The name as it stands in the menu; what is typed is not kept");
   name->setMaxLength(static_cast<int>(PictureMenu::kLongestName));
   QObject::connect(name, &QLineEdit::textEdited, frame_, [this, index](const QString& typed) {
     run(&Form1::bmnutb_Change, index, typed.toStdString());
@@ -133,17 +138,13 @@ QLayout* MenuEditorView::make_names() {
       new ListView("PNameList", "Display names by record", form_.plane.pilot_names.PNameList, frame_);
   list->set_empty_text("\"Make Aircraft Settings\" reads the names");
   list->setFixedWidth(kPlaneNamesWidth);
+  list->setToolTip("The names that the game shows, in the order of its aircraft records");
   also([list] { list->apply(-1); });
   auto* names = new QVBoxLayout;
   names->setSpacing(4);
   names->addWidget(note("Display names"));
   names->addWidget(list, 1);
   return names;
-}
-
-void MenuEditorView::apply() {
-  fit_to_room(form_.menu_editor.PMenFrame, *frame_->parentWidget(), kMostSize);
-  PaneView::apply();
 }
 
 }  // namespace vorlund

@@ -3,12 +3,18 @@
 
 #include <QMouseEvent>
 #include <QPainterPath>
+#include <array>
 
 #include "window/theme.h"
 
 namespace vorlund {
 
 namespace {
+
+constexpr std::array<const char*, 4> kMenuTips = {"Gives the game's aircraft skins and flight models",
+                                                  "Composes the game folder from the groups of the store",
+                                                  "Chooses the group that all flight models are taken from",
+                                                  "Loads set-ups that were saved under a name"};
 
 /// The title and the version: plain text on the background, hidden by a click.
 class TitleLabel : public QLabel {
@@ -51,20 +57,28 @@ MenuView::MenuView(Form1& form, const Perform& perform, QWidget* parent)
   title_ = title("Label6", form.Label6, 1.9);
   version_ = title("Label26", form.Label26, 1.0);
   for (int index = 0; index < static_cast<int>(form.Label9.size()); ++index) {
-    dragged(element_name("Label9", index), form.Label9[static_cast<std::size_t>(index)])->on_release =
-        [this, index](const MouseEvent& event) { run(&Form1::Label9_MouseUp, index, event); };
+    dragged(element_name("Label9", index), form.Label9[static_cast<std::size_t>(index)],
+            kMenuTips.at(static_cast<std::size_t>(index)))
+        ->on_release = [this, index](const MouseEvent& event) { run(&Form1::Label9_MouseUp, index, event); };
   }
-  dragged("Label18", form.Label18, &Form1::Label18_MouseUp);
-  dragged("Label5", form.Label5, &Form1::Label5_MouseUp);
-  dragged("DelMSN", form.DelMSN, &Form1::DelMSN_MouseUp);
-  dragged("Label7", form.Label7, &Form1::Label7_MouseUp);
-  dragged("ExitButton", form.ExitButton, &Form1::ExitButton_MouseUp);
-  auto* loaded = command("WhatsLoaded", form.WhatsLoaded, Look::kPlate, &Form1::WhatsLoaded_Click);
+  auto* loaded = command("WhatsLoaded", form.WhatsLoaded, Look::kPlate, &Form1::WhatsLoaded_Click,
+                         "Shows both tables, and says what of them is installed");
   also([loaded, &form] { loaded->setGeometry(theme::pixels(form.WhatsLoaded.place)); });
+  dragged("Label18", form.Label18, &Form1::Label18_MouseUp, "Starts the game and minimises this window");
+  dragged("Label5", form.Label5, &Form1::Label5_MouseUp,
+          "Brings career saves home and deletes what sets have put into the game folder")
+      ->tool_tip_now = [&form] { return QString::fromStdString(form.what_clean_up_would_do()); };
+  dragged("Label7", form.Label7, &Form1::Label7_MouseUp, "Minimises this window");
+  dragged("ExitButton", form.ExitButton, &Form1::ExitButton_MouseUp,
+          "Ends the program; the tables are kept only where they were installed or saved");
+  dragged("DelMSN", form.DelMSN, &Form1::DelMSN_MouseUp,
+          "Deletes the missions that the game leaves in \"Savedata\"");
   const Label& show = form.desk.labels.Label2;
-  show_table_ = command("Label2", show, Look::kPrimary, &Form1::Label2_Click);
+  show_table_ =
+      command("Label2", show, Look::kPrimary, &Form1::Label2_Click, "Shows the table of the running work");
   also([this, &show] { show_table_->setVisible(show.visible && !show.caption.empty()); });
-  raise_table_ = command("Label41", form.selection.Label41, Look::kButton, &Form1::Label41_Click);
+  raise_table_ = command("Label41", form.selection.Label41, Look::kButton, &Form1::Label41_Click,
+                         "Shows the table of the running work in front of all else");
 }
 
 QLabel* MenuView::title(const char* name, const Label& data, double size) {
@@ -78,8 +92,9 @@ QLabel* MenuView::title(const char* name, const Label& data, double size) {
   return label;
 }
 
-ActionLabel* MenuView::dragged(const QString& name, const Label& data) {
+ActionLabel* MenuView::dragged(const QString& name, const Label& data, const QString& tool_tip) {
   auto* widget = new ActionLabel(name, Look::kPlate, parent_, ActionLabel::Drag::kRightButton);
+  widget->setToolTip(tool_tip);
   widget->on_press = [this](const MouseEvent& event) { run(&Form1::Label_MouseDown, event); };
   also([widget, &data] {
     widget->setGeometry(theme::pixels(data.place));
@@ -88,10 +103,10 @@ ActionLabel* MenuView::dragged(const QString& name, const Label& data) {
   return widget;
 }
 
-void MenuView::dragged(const char* name, const Label& data, Press release) {
-  dragged(QString(name), data)->on_release = [this, release](const MouseEvent& event) {
-    run(release, event);
-  };
+ActionLabel* MenuView::dragged(const char* name, const Label& data, Press release, const QString& tool_tip) {
+  ActionLabel* widget = dragged(QString(name), data, tool_tip);
+  widget->on_release = [this, release](const MouseEvent& event) { run(release, event); };
+  return widget;
 }
 
 void MenuView::apply() {

@@ -10,22 +10,6 @@
 
 namespace vorlund {
 
-namespace {
-
-// Pixels that the main menu takes at the left, and the title and the status line above and below a pane.
-constexpr int kBesidePane = 294;
-constexpr int kAboveAndBelowPane = 110;
-constexpr QSize kLeastPane{600, 380};
-
-}  // namespace
-
-void fit_to_room(Frame& frame, const QWidget& parent, const QSize& most) {
-  const QSize room = parent.size() - QSize(kBesidePane, kAboveAndBelowPane);
-  const QSize size = room.boundedTo(most).expandedTo(kLeastPane);
-  frame.place.width = theme::twips(size.width());
-  frame.place.height = theme::twips(size.height());
-}
-
 PaneFrame::PaneFrame(const QString& name, FreeArea free_area, QWidget* parent)
     : QWidget(parent), free_area_(free_area), content_(new QVBoxLayout(this)) {
   setObjectName(name);
@@ -36,6 +20,11 @@ PaneFrame::PaneFrame(const QString& name, FreeArea free_area, QWidget* parent)
 
 int PaneFrame::title_height() const {
   return caption_.isEmpty() ? 0 : fontMetrics().height() * 2;
+}
+
+QSize PaneFrame::least_size() {
+  content_->activate();
+  return minimumSizeHint();
 }
 
 void PaneFrame::apply(const Frame& frame) {

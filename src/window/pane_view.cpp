@@ -17,8 +17,9 @@ PaneFrame* PaneView::make_frame(const char* name, const Frame& data, PaneFrame::
   return frame_;
 }
 
-void PaneView::dragged_frame(const char* name, const Frame& data, QWidget* parent, Press press,
-                             Press release) {
+void PaneView::dragged_frame(const char* name, const Frame& data, QWidget* parent, Press press, Press release,
+                             std::function<void()> close) {
+  close_ = std::move(close);
   make_frame(name, data, PaneFrame::FreeArea::kMoves, parent);
   frame_->on_press = [this, press](const MouseEvent& event) { run(press, event); };
   frame_->on_release = [this, release](const MouseEvent& event) { run(release, event); };
@@ -26,6 +27,7 @@ void PaneView::dragged_frame(const char* name, const Frame& data, QWidget* paren
 
 void PaneView::clicked_frame(const char* name, const Frame& data, QWidget* parent, Click hide) {
   make_frame(name, data, PaneFrame::FreeArea::kHides, parent);
+  close_ = [this, hide] { run(hide); };
   frame_->on_release = [this, hide](const MouseEvent&) { run(hide); };
 }
 

@@ -8,8 +8,6 @@ namespace vorlund {
 
 namespace {
 
-constexpr QSize kMostSize{1320, 1000};
-
 QHBoxLayout* in_a_row(const std::vector<QWidget*>& widgets) {
   auto* row = new QHBoxLayout;
   for (QWidget* widget : widgets) row->addWidget(widget);
@@ -22,13 +20,15 @@ QHBoxLayout* in_a_row(const std::vector<QWidget*>& widgets) {
 PossibleSkinsView::PossibleSkinsView(Form1& form, const Perform& perform, QWidget* parent)
     : PaneView(form, perform) {
   const PossibleSkins& pane = form.possible_skins;
-  dragged_frame("Frame4", pane.Frame4, parent, &Form1::Frame4_MouseDown, &Form1::Frame4_MouseUp);
+  dragged_frame("Frame4", pane.Frame4, parent, &Form1::Frame4_MouseDown, &Form1::Frame4_MouseUp,
+                [this] { run(&Form1::Label33_Click); });
   auto* both = new QHBoxLayout;
   both->setSpacing(18);
   both->addLayout(lay_out_list(), 2);
   both->addLayout(lay_out_picture(), 5);
   frame_->content()->addLayout(both, 1);
-  frame_->content()->addWidget(command("Label33", pane.Label33, Look::kHelp, &Form1::Label33_Click));
+  frame_->content()->addWidget(
+      command("Label33", pane.Label33, Look::kHelp, &Form1::Label33_Click, "Hides the pane (Escape)"));
 }
 
 QLayout* PossibleSkinsView::lay_out_list() {
@@ -43,6 +43,7 @@ QLayout* PossibleSkinsView::lay_out_list() {
   auto* match_heading = text("Label34", pane.Label34, Tone::kQuiet);
   auto* match = text("Label35", pane.Label35, Tone::kStrong);
   auto* skins = list("List4", "Possible skins", pane.List4, &Form1::List4_Click, "No skins are listed");
+  skins->setToolTip("A click shows the skin's picture");
 
   auto* left = new QVBoxLayout;
   left->setSpacing(6);
@@ -62,6 +63,7 @@ QLayout* PossibleSkinsView::lay_out_picture() {
   auto* folder = text("Label32", pane.Label32, Tone::kHeading);
   auto* shown = picture("Image4", pane.Image4, PictureFit::kWhole, "Picture of the skin; a click chooses it",
                         &Form1::Image4_Click);
+  shown->setToolTip("A click chooses the skin for the slot that it is made for");
   shown->setCursor(Qt::PointingHandCursor);
 
   auto* viewed = new QHBoxLayout;
@@ -72,11 +74,6 @@ QLayout* PossibleSkinsView::lay_out_picture() {
   right->addLayout(viewed);
   right->addWidget(shown, 1);
   return right;
-}
-
-void PossibleSkinsView::apply() {
-  fit_to_room(form_.possible_skins.Frame4, *frame_->parentWidget(), kMostSize);
-  PaneView::apply();
 }
 
 }  // namespace vorlund

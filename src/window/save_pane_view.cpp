@@ -18,6 +18,7 @@ SavePaneView::SavePaneView(Form1& form, const Perform& perform, QWidget* parent)
   auto* name = new QLineEdit(frame_);
   name->setObjectName("Text2");
   name->setAccessibleName("Name to save under");
+  name->setToolTip("The name of the set-up, used exactly as typed");
   QObject::connect(name, &QLineEdit::textEdited, frame_,
                    [this](const QString& typed) { run(&Form1::Text2_Change, typed.toStdString()); });
   QObject::connect(name, &QLineEdit::returnPressed, frame_, [this] { run(&Form1::Label4_Click); });
@@ -32,10 +33,15 @@ SavePaneView::SavePaneView(Form1& form, const Perform& perform, QWidget* parent)
   auto* heading = text("Label22", pane.Label22, Tone::kQuiet);
   auto* existing =
       list("File5", "Existing files", pane.File5, &Form1::File5_Click, "Nothing has been saved yet");
+  existing->setToolTip("A click takes the name over, so that the set-up is replaced");
 
   auto* commands = new QHBoxLayout;
-  commands->addWidget(command("Label4", pane.Label4, Look::kPrimary, &Form1::Label4_Click), 2);
-  commands->addWidget(command("Label39", pane.Label39, Look::kButton, &Form1::Label39_Click), 1);
+  commands->addWidget(command("Label4", pane.Label4, Look::kPrimary, &Form1::Label4_Click,
+                              "Saves under the name; a set-up of that name is replaced (Enter)"),
+                      2);
+  commands->addWidget(command("Label39", pane.Label39, Look::kButton, &Form1::Label39_Click,
+                              "Closes the pane and saves nothing (Escape)"),
+                      1);
   frame_->content()->addWidget(prompt);
   frame_->content()->addWidget(name);
   frame_->content()->addWidget(refusal);

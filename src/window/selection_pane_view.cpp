@@ -5,6 +5,7 @@
 #include <QPlainTextEdit>
 #include <QVBoxLayout>
 
+#include "window/pane_layout.h"
 #include "window/plate.h"
 
 namespace vorlund {
@@ -110,9 +111,10 @@ QWidget* SelectionPaneView::make_details() {
   auto* shown =
       picture("Image1", pane.Image1, PictureFit::kWhole, "Single click to load", &Form1::Image1_Click);
   shown->setCursor(Qt::PointingHandCursor);
+  shown->setToolTip("A click chooses the folder");
 
   auto* layout = new QVBoxLayout(plate);
-  layout->setContentsMargins(16, 14, 16, 14);
+  layout->setContentsMargins(16, PaneLayout::kStripHeight, 16, 14);
   layout->addWidget(detail("GroupLabel", labels.GroupLabel));
   layout->addWidget(detail("FolderLabel", labels.FolderLabel, 1.4));
   layout->addLayout(slot);
@@ -128,6 +130,7 @@ QWidget* SelectionPaneView::make_description() {
   auto* description = new QPlainTextEdit(board_);
   description->setObjectName("Text1");
   description->setAccessibleName("Description");
+  description->setToolTip("What the folder says of itself");
   description->setReadOnly(true);
   description->setTabChangesFocus(true);
   description->setCursor(Qt::ArrowCursor);
@@ -152,9 +155,12 @@ QLayout* SelectionPaneView::make_commands() {
   auto* commands = new QHBoxLayout;
   commands->addWidget(picture_hint);
   commands->addStretch(1);
-  commands->addWidget(command("Label27", 0, pane.Label27[0], Look::kButton, &Form1::Label27_Click));
-  commands->addWidget(command("Label27", 1, pane.Label27[1], Look::kButton, &Form1::Label27_Click));
-  commands->addWidget(command("Label10", 2, pane.Label10, Look::kButton, &Form1::Label10_Click));
+  commands->addWidget(command("Label27", 0, pane.Label27[0], Look::kButton, &Form1::Label27_Click,
+                              "Hides the picture alone"));
+  commands->addWidget(command("Label27", 1, pane.Label27[1], Look::kButton, &Form1::Label27_Click,
+                              "Shows the description, or hides it"));
+  commands->addWidget(
+      command("Label10", 2, pane.Label10, Look::kButton, &Form1::Label10_Click, "Leaves the group (Escape)"));
   return commands;
 }
 

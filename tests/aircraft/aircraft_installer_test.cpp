@@ -396,7 +396,7 @@ TEST_F(AircraftInstaller, SaysInPlainWordsWhatMayBeASurprise) {
   wear(kSP09, "RAF", "Gone");
   folder.make_folder("~Vorlund/FlightModels/1944/P51");
   EXPECT_EQ(install().text(),
-            "3 slots, 0 files copied, 0 aircraft records and 0 picture menus written, 6 remarks\n"
+            "3 slots, 6 remarks\n"
             "slot P38H: the group has no flight-model folder \"Missing\"\n"
             "slot P51B: the flight-model folder \"P51\" has no .oaw file, so Planes.dat keeps its record\n"
             "slot P51B: it has no record number, so 0 was taken\n"
@@ -412,8 +412,9 @@ TEST(AircraftSummary, CountsInWords) {
   summary.unchanged = 2;
   summary.records = 1;
   summary.menus = 1;
-  EXPECT_EQ(summary.text(),
-            "1 slot, 1 file copied, 2 already in place, 1 aircraft record and 1 picture menu written");
+  EXPECT_EQ(
+      summary.text(),
+      "1 slot, 1 file copied, 2 files already in place, 1 aircraft record written, 1 picture menu written");
 }
 
 }  // namespace

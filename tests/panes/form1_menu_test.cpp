@@ -56,6 +56,7 @@ TEST_F(Menu, AStoreWithoutGroupsShowsNoGroupLabel) {
 TEST_F(Menu, SaysWhatToDoNext) {
   folder.make_folder("~Vorlund/SkinStore/RAF");
   folder.write("~Vorlund/CurrentPlaneSet.txt", "Standard\r\nSlot\r\n");
+  folder.write("eaw.exe", "MZ");
   start();
   EXPECT_EQ(form->desk.status_line.caption, "Confirm the game folder, then choose from the menu on the left");
   form->Label17_Click();

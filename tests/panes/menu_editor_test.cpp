@@ -27,7 +27,7 @@ class MenuEditorPane : public ::testing::Test {
  protected:
   void read(Country country) {
     pmenread(form.desk.game(), country, editor.menu);
-    editor.refresh();
+    editor.refresh(country);
   }
 
   void write(Country country) { pmenwrite(form.desk.game(), country, editor.menu); }

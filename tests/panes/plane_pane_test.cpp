@@ -138,7 +138,7 @@ TEST_F(AircraftPane, ProcessHidesTheSavePaneAndSaysWhatWasDone) {
   form.Label8_Click();
   EXPECT_FALSE(form.save_pane.SaveFrame.visible);
   EXPECT_EQ(work.said(),
-            "0 slots, 0 files copied, 0 aircraft records and 0 picture menus written, 1 remark\n"
+            "There was nothing to install, 1 remark\n"
             "the game folder has no pnames.str, so no names were written");
 }
 

@@ -23,7 +23,7 @@ struct AircraftSummary {
   bool names = false;                ///< pnames.str was written
   std::vector<std::string> remarks;  ///< what a player may not expect, in plain words
 
-  /// One line that sums up, then one line for each remark, separated by "\n".
+  /// One line that sums up, without what is 0, then one line for each remark, separated by "\n".
   [[nodiscard]] std::string text() const;
 };
 

@@ -16,4 +16,7 @@ std::string decode_text(std::string_view bytes);
 /// The bytes that spell the UTF-8 text; a character that the code page cannot spell becomes "?".
 std::string encode_text(std::string_view text);
 
+/// True when the code page can spell the whole text.
+[[nodiscard]] bool can_spell(std::string_view text);
+
 }  // namespace vorlund

@@ -63,6 +63,9 @@ struct Desk {
   /// Adds a line to what the status line says.
   void say_too(std::string_view text);
 
+  /// Where a record can't spell a name that was chosen or saved: adds what it will read at the next start.
+  void say_spelling(std::string_view name);
+
   void bring_to_front(Frame& frame) { frame.depth = ++front_; }
 
   /// Shows a pane in front of the others.

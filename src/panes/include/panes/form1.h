@@ -9,6 +9,7 @@
 #include "panes/desk.h"
 #include "panes/flight_model_browser.h"
 #include "panes/game_pane.h"
+#include "panes/help_pane.h"
 #include "panes/load_pane.h"
 #include "panes/menu_editor.h"
 #include "panes/picture.h"
@@ -44,6 +45,7 @@ class Form1 {
   FlightModelBrowser browser{desk, plane, selection, possible_skins};
   SavePane save_pane{desk, game, plane};
   LoadPane load_pane{desk};
+  HelpPane help{desk};
 
   Place place{1000, 1000, 0, 0};                 ///< where the window stands on the screen
   Picture background;                            ///< picture of the main window
@@ -72,7 +74,7 @@ class Form1 {
   void Form_MouseUp(const MouseEvent& event) { drag_.release(event, place); }
 
   // The game directory.
-  void Dir6_DblClick(int index) { desk.directory.open_folder(index); }
+  void Dir6_DblClick(int index) { open_directory(index); }
   void Label17_Click() { confirm_directory(); }
 
   // The main menu and the command labels: the right button drags them, the left one commands.
@@ -92,7 +94,7 @@ class Form1 {
   void Label10_Click(int index);
 
   // The game pane.
-  void G2_Click(int row) { game.G2.select(row); }
+  void G2_Click(int row) { game.select_row(row); }
   void GameLoad_Click() {
     act([this] { game.install(); });
   }
@@ -109,7 +111,7 @@ class Form1 {
 
   // The aircraft pane.
   void G1_MouseDown(int row, int column, const MouseEvent& event = {});
-  void G1_Move(int row, int column) { plane.G1.select(row, column); }
+  void G1_Move(int row, int column) { plane.select_cell(row, column); }
   void Label8_Click() {
     act([this] { install_aircraft(); });
   }
@@ -173,18 +175,28 @@ class Form1 {
   void Label19_Click() {
     act([this] { load_set_ups(); });
   }
+  void Label20_Click() { load_pane.take_back_plane_set(); }
+  void Label21_Click() { load_pane.take_back_game_set(); }
   void Label40_Click() { load_pane.hide(); }
   void Frame2_Click() { load_pane.hide(); }
 
   // The menu editor.
   void CountryBut_Click(int index) { menu_editor.select_country(static_cast<Country>(index)); }
   void bmnutb_Change(int index, std::string_view text) { menu_editor.set_name(index, text); }
+  void MenuHide_Click() { menu_editor.hide(); }
   void PMenFrame_Click() { menu_editor.hide(); }
+
+  // The help.
+  void HelpLabel_Click() { help.show_or_hide(); }
+  void HelpFrame_Click() { help.hide(); }
 
   /// Brings career saves home, deletes installed loose files and empties both tables and records.
   void CleanUp() {
     act([this] { clean_up(); });
   }
+
+  /// What a clean-up would do now, in plain words; where a look fails, that it does.
+  [[nodiscard]] std::string what_clean_up_would_do();
 
   /// Ctrl+Z and Ctrl+Y: takes the last change of the tables since the start or the clean-up back, and does it
   /// again. In memory alone; files are as they were.
@@ -192,7 +204,11 @@ class Form1 {
   void do_again();
 
  private:
+  void open_directory(int index);
   void confirm_directory();
+
+  /// Says where the game directory holds no game, or no store.
+  void say_of_directory();
   void press_label(const MouseEvent& event);
   void release_menu_entry(int index, const MouseEvent& event);
 

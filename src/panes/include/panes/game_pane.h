@@ -25,6 +25,9 @@ class GamePane {
   Label Label29{"Move the selected row to the end ( to load last)"};
   Label Label10{"Hide"};  ///< element 1 of the "Hide" labels
 
+  /// Makes a row the current one.
+  void select_row(int row);
+
   /// Installs the game set, hides the pane, writes the record and says what was done.
   void install();
 

@@ -35,16 +35,23 @@ class LoadPane {
 
   /// Lists both folders again and shows the pane.
   void open();
-  void hide() { Frame2.visible = false; }
+  void hide();
 
   void choose_plane_set(int index);
   void choose_game_set(int index);
+
+  /// Takes the choice back: nothing of that kind will be loaded.
+  void take_back_plane_set() { take_back(File2, Label20); }
+  void take_back_game_set() { take_back(File3, Label21); }
 
   /// Paths of the chosen set-ups.
   [[nodiscard]] std::string plane_set() const { return File2.path + "\\" + Label20.caption; }
   [[nodiscard]] std::string game_set() const { return File3.path + "\\" + Label21.caption; }
 
  private:
+  void choose(FileList& list, int index, Label& chosen);
+  void take_back(FileList& list, Label& chosen);
+
   Desk& desk_;
 };
 

@@ -23,6 +23,8 @@ class MenuEditor {
   std::array<TextBox, PictureMenu::kEntries> bmnutb;              ///< names of the entries
   std::array<Label, PictureMenu::kEntries> mlen;                  ///< length byte of each entry, in decimal
   std::array<Label, PictureMenu::kEntries> position;  ///< trailers: 15 decimal numbers, a blank before each
+  Label MenuHide{"Hide"};                             ///< closes the pane; a label of the window's own
+  Label MenuShown;                                    ///< says which menu was read last
   Label hedlab;                                       ///< header: 35 decimal numbers, a blank before each
 
   /// Sets one country button and clears the others. It only decides which file is meant next.
@@ -31,15 +33,16 @@ class MenuEditor {
   /// Puts a name into an entry as it was typed.
   void set_name(int index, std::string_view text);
 
-  /// Shows the menu as it is now.
-  void refresh();
+  /// Shows the menu as it is now; `country` is whose it is.
+  void refresh(Country country);
 
   /// Shows the pane in front of the others. A pane that holds nothing yet reads the selected file first.
   void show();
-  void hide() { PMenFrame.visible = false; }
+  void hide();
 
  private:
   [[nodiscard]] Country selected_country() const;
+  void show_bytes();
 
   Desk& desk_;
 };

@@ -55,9 +55,12 @@ class PlanePane {
   /// Shows all slots, or those in use alone.
   void switch_view();
 
-  /// Makes a cell current. In edit mode it shows the plane codes and cycles "Side", "Flyable", "Role" and
-  /// "Fuel %"; true for a "Region" or "SkinFolder", for which skins are to be offered. The header row is
-  /// never edited.
+  /// Makes a cell current.
+  void select_cell(int row, int column);
+
+  /// Makes a cell current as a click does. In edit mode it shows the plane codes and cycles "Side",
+  /// "Flyable", "Role" and "Fuel %"; true for a "Region" or "SkinFolder", for which skins are to be offered.
+  /// The header row is never edited.
   [[nodiscard]] bool click_cell(int row, int column);
 
   /// Makes this the flight-model group, and shows it.

@@ -43,11 +43,14 @@ class SavePane {
   /// file name on Linux and on Windows is refused in the pane, which stays open.
   void save();
 
-  void hide() { SaveFrame.visible = false; }
+  void hide();
 
  private:
   /// Where set-ups of the kind are saved in the game directory of the moment.
   std::string folder() const;
+
+  /// Says so where the saved file can't spell a name of the table.
+  void say_spelling();
 
   Desk& desk_;
   const GamePane& game_;

@@ -83,7 +83,7 @@ class SelectionPane {
 
   void hide_picture() { Image1.visible = false; }
   void toggle_details() { Text1.visible = !Text1.visible; }
-  void hide() { Frame3.visible = false; }
+  void hide();
 
   /// Hides the pane, so that the table can be brought back.
   void hide_for_table();
@@ -95,6 +95,7 @@ class SelectionPane {
  private:
   std::string group_folder() const;
   void show_slot(const std::string& folder);
+  void say_missing_models();
   void choose_skin();
   void choose_game_folder();
 

@@ -33,10 +33,22 @@ class ActionLabel : public QAbstractButton {
   std::function<void(const MouseEvent&)> on_release;
   std::function<void()> on_double_click;
 
+  /// Gives the tooltip of the moment, where it is not always the same.
+  std::function<QString()> tool_tip_now;
+
+  /// Changes the look from then on.
+  void set_look(Look look);
+  [[nodiscard]] Look look() const { return look_; }
+
+  /// Shown as of no use for the moment; it acts all the same.
+  void set_dimmed(bool dimmed);
+  [[nodiscard]] bool is_dimmed() const { return dimmed_; }
+
   /// Takes over caption, colour and visibility; the place is the owner's business.
   void apply(const Label& label);
 
   QSize sizeHint() const override;
+  QSize minimumSizeHint() const override;
   int heightForWidth(int width) const override;
 
  protected:
@@ -62,6 +74,7 @@ class ActionLabel : public QAbstractButton {
   Look look_;
   Drag drag_;
   QColor text_colour_;
+  bool dimmed_ = false;
   Qt::MouseButton held_ = Qt::NoButton;
   QPointF pressed_at_;
   QPoint place_at_press_;

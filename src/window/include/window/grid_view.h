@@ -32,6 +32,9 @@ class GridModel : public QAbstractTableModel {
   /// Says of a cell whether a click cycles its value; such cells look as if they did.
   std::function<bool(int row, int column)> cycles;
 
+  /// Explains a column in the tooltip of its header.
+  std::function<QString(int column)> explains;
+
  private:
   const CellTable& grid_;
   std::vector<int> shown_;
@@ -50,6 +53,8 @@ class GridView : public QTableView {
   std::function<void(int row, int column)> on_move;
   /// A cell was clicked, or Enter or Space pressed on it; row 0 is the header.
   std::function<void(int row, int column)> on_click;
+  /// Delete was pressed.
+  std::function<void()> on_delete;
 
   GridModel& grid_model() { return model_; }
 
@@ -58,12 +63,17 @@ class GridView : public QTableView {
   /// Minimum column widths in pixels fit for the content, on top of the grid's own widths.
   void fit_columns();
 
-  /// From now on shares the room among the columns by what they hold: headers stay whole, the longest texts
-  /// give way first. A column that the user sizes ends this.
-  void share_columns();
+  /// From now on shares the room among the columns by what they hold: headers stay whole, and so do the
+  /// columns of short values; of the others the longest texts give way first. A column that the user sizes
+  /// ends this.
+  void share_columns(std::vector<int> short_columns);
 
   /// Shown in place of rows while there is none.
   void set_empty_text(const QString& text) { empty_text_ = text; }
+
+  /// A few rows, and every column as narrow as it may get.
+  QSize minimumSizeHint() const override;
+  QSize sizeHint() const override { return minimumSizeHint(); }
 
  protected:
   void mousePressEvent(QMouseEvent* event) override;
@@ -77,6 +87,7 @@ class GridView : public QTableView {
   enum class Sharing { kOff, kOn };
   void share_room();
   int header_width(int column) const;
+  int least_width(int column) const;
   int wanted_width(int column) const;
 
   const CellTable& grid_;
@@ -85,6 +96,8 @@ class GridView : public QTableView {
   QString empty_text_;
   bool applying_ = false;
   Sharing sharing_ = Sharing::kOff;
+  std::vector<int> short_columns_;
+  int least_total_ = 0;  ///< pixels of all columns
 };
 
 }  // namespace vorlund

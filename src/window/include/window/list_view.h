@@ -35,6 +35,9 @@ class ListView : public QListView {
   /// An entry was clicked or reached with the keyboard, or Enter or Space pressed on it.
   std::function<void(int index)> on_select;
 
+  /// Delete was pressed.
+  std::function<void()> on_delete;
+
   /// Shown in place of entries while there is none.
   void set_empty_text(const QString& text) { empty_text_ = text; }
 

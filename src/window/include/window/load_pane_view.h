@@ -11,7 +11,8 @@ class LoadPaneView : public PaneView {
   LoadPaneView(Form1& form, const Perform& perform, QWidget* parent);
 
  private:
-  QLayout* column(TextLabel* heading, ListView* list, TextLabel* chosen, CheckBox* box);
+  ActionLabel* chosen(const char* name, const Label& data, ListView& list, Click take_back);
+  QLayout* column(TextLabel* heading, ListView* list, ActionLabel* chosen, CheckBox* box);
 };
 
 }  // namespace vorlund

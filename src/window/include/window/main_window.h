@@ -15,6 +15,7 @@
 #include "panes/form1.h"
 #include "window/focus_keeper.h"
 #include "window/pane_frame.h"
+#include "window/pane_layout.h"
 #include "window/pane_view.h"
 
 namespace vorlund {
@@ -44,6 +45,7 @@ class MainWindow : public QWidget, private Status {
   void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
@@ -55,7 +57,10 @@ class MainWindow : public QWidget, private Status {
   void progress(const Progress& progress) override;
   void pulse() override;
 
+  void add_status_bar();
   void add_views();
+  void add_keys();
+  void place_panes();
   void apply();
   void follow_panes();
   void place_status_bar();
@@ -69,13 +74,17 @@ class MainWindow : public QWidget, private Status {
   std::unique_ptr<Form1> form_;
   std::vector<std::unique_ptr<PaneView>> views_;
   MenuView* menu_ = nullptr;
-  std::vector<std::pair<PaneFrame*, const Frame*>> frames_;  ///< panes, each with its data
+  PaneView* plane_view_ = nullptr;
+  PaneView* game_view_ = nullptr;
+  std::vector<std::pair<PaneView*, const Frame*>> frames_;  ///< panes, each with its data
+  PaneLayout layout_;
   std::vector<int> shown_order_;
   FocusKeeper focus_{*this};
   QWidget* status_bar_ = nullptr;
   QLabel* status_text_ = nullptr;
   QProgressBar* progress_bar_ = nullptr;
   QLabel* progress_text_ = nullptr;
+  ActionLabel* help_ = nullptr;
   QElapsedTimer painted_;
   QPixmap background_;
   QSize background_for_;

@@ -11,7 +11,6 @@ namespace vorlund {
 class MenuEditorView : public PaneView {
  public:
   MenuEditorView(Form1& form, const Perform& perform, QWidget* parent);
-  void apply() override;
 
  private:
   QWidget* make_countries();

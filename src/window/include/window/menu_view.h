@@ -11,6 +11,9 @@ class MenuView : public PaneView {
   MenuView(Form1& form, const Perform& perform, QWidget* parent);
   void apply() override;
 
+  /// Shows whether "Bring the table to the front" has anything to bring.
+  void show_whether_covered(bool covered) { raise_table_->set_dimmed(!covered); }
+
   /// The labels that must stay reachable in front of the selection pane.
   void raise_table_labels();
 
@@ -18,8 +21,8 @@ class MenuView : public PaneView {
   QLabel* title(const char* name, const Label& data, double size);
 
   /// A label that the right button drags; it stands where the model places it.
-  ActionLabel* dragged(const QString& name, const Label& data);
-  void dragged(const char* name, const Label& data, Press release);
+  ActionLabel* dragged(const QString& name, const Label& data, const QString& tool_tip);
+  ActionLabel* dragged(const char* name, const Label& data, Press release, const QString& tool_tip);
 
   QWidget* parent_;
   QLabel* title_;

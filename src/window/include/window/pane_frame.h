@@ -24,6 +24,9 @@ class PaneFrame : public QWidget {
   /// Layout that the content goes into.
   QVBoxLayout* content() const { return content_; }
 
+  /// The least size at which nothing of the content is cut.
+  QSize least_size();
+
   /// What lies below the title.
   QRect body() const { return rect().adjusted(1, title_height() + 1, -1, -1); }
 
@@ -50,9 +53,5 @@ class PaneFrame : public QWidget {
   QPointF pressed_at_;
   QPoint place_at_press_;
 };
-
-/// Makes a pane as large as the room beside the main menu, `most` pixels at most. Where it stands is left
-/// alone.
-void fit_to_room(Frame& frame, const QWidget& parent, const QSize& most);
 
 }  // namespace vorlund

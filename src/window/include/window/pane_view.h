@@ -36,6 +36,12 @@ class PaneView {
 
   virtual void apply();
 
+  /// Closes the pane as its own control does.
+  void close() const { close_(); }
+
+  /// The least size of the pane at which nothing of it is cut, where it may be so wide.
+  [[nodiscard]] virtual QSize least_size(int /*width*/) { return frame_->least_size(); }
+
   /// The pane, null for views that stand on the window itself.
   [[nodiscard]] PaneFrame* frame() const { return frame_; }
 
@@ -47,7 +53,8 @@ class PaneView {
   using Tone = TextLabel::Tone;
 
   /// The pane that all further controls stand in: dragged by its free area, or hidden by a click on it.
-  void dragged_frame(const char* name, const Frame& data, QWidget* parent, Press press, Press release);
+  void dragged_frame(const char* name, const Frame& data, QWidget* parent, Press press, Press release,
+                     std::function<void()> close);
   void clicked_frame(const char* name, const Frame& data, QWidget* parent, Click hide);
 
   /// From now on controls stand on this widget.
@@ -92,6 +99,7 @@ class PaneView {
   ListView* show_list(ListView* view, const int& selected, IndexedClick handler, const QString& when_empty);
 
   Perform perform_;
+  std::function<void()> close_;
   std::vector<std::function<void()>> shows_;
 };
 

@@ -9,7 +9,6 @@ namespace vorlund {
 class PossibleSkinsView : public PaneView {
  public:
   PossibleSkinsView(Form1& form, const Perform& perform, QWidget* parent);
-  void apply() override;
 
  private:
   QLayout* lay_out_list();
