@@ -245,7 +245,7 @@ void Form1::install_aircraft() {
   plane.install(menu_editor.menu);
   menu_editor.select_country(Country::kGerman);
   menu_editor.refresh(Country::kGerman);
-  save_pane.hide();
+  save_pane.SaveFrame.visible = false;
 }
 
 void Form1::load_set_ups() {
@@ -361,7 +361,7 @@ void Form1::clean_up() {
   SavDatFile.path = folder.path(kSavedata);
   SavDatFile.refresh(desk.files);
   plane.show_emptied();
-  save_pane.hide();
+  save_pane.SaveFrame.visible = false;
   desk.labels.Label2.visible = false;
   selection.remove_group_labels();
   desk.say(summary.sentence());

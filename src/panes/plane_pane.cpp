@@ -18,6 +18,10 @@ void PlanePane::set_option(PlaneOption option) {
   for (Choice& choice : Option1) choice.checked = false;
   Option1[static_cast<std::size_t>(option)].checked = true;
   option == PlaneOption::kEditMode ? show_plane_codes() : show_flight_models();
+}
+
+void PlanePane::choose_option(PlaneOption option) {
+  set_option(option);
   desk_.say("");
 }
 

@@ -23,7 +23,6 @@ constexpr int kGroupStep = 500;
 constexpr int kGroupColumn = 3000;
 constexpr int kRoomBelowGroups = 2000;
 constexpr int kSelectionStep = 450;
-constexpr std::size_t kNamedSlots = 6;  // of those that are named one by one
 constexpr std::uint64_t kLongestDescription = 1ULL << 20;
 
 }  // namespace
@@ -106,18 +105,16 @@ void SelectionPane::say_missing_models() {
   std::vector<std::string> models;
   const std::string folder = flight_model_group_folder(desk_.game(), plane_.G1);
   if (!folder.empty()) models = list_folders(desk_.files, folder);
-  std::size_t missing = 0;
-  std::string slots;
+  std::vector<std::string> slots;
   for (int row = 1; row < plane_.G1.row_count(); ++row) {
     const std::string& wanted = plane_.G1.cell(row, PlaneTable::kScriptFolder);
     const auto is_wanted = [&wanted](const std::string& name) { return same_name(name, wanted); };
     if (wanted.empty() || std::any_of(models.begin(), models.end(), is_wanted)) continue;
-    if (++missing <= kNamedSlots)
-      slots += (slots.empty() ? "" : ", ") + plane_.G1.cell(row, PlaneTable::kSlot);
+    slots.push_back(plane_.G1.cell(row, PlaneTable::kSlot));
   }
-  if (missing == 0) return;
-  desk_.say_too(counted(missing, "slot lacks its flight model", "slots lack their flight models") +
-                " in it: " + slots + (missing > kNamedSlots ? ", ..." : ""));
+  if (slots.empty()) return;
+  desk_.say_too(counted(slots.size(), "slot lacks its flight model", "slots lack their flight models") +
+                " in it: " + first_of(slots));
 }
 
 void SelectionPane::list_group(const std::string& group) {

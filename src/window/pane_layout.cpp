@@ -56,6 +56,7 @@ void PaneLayout::place_tables(PaneView& plane, Frame& plane_frame, PaneView& gam
     } else if (below >= least_game.height()) {
       lower.setHeight(std::max(least_game.height(), std::min(below, room.height() * 2 / 5)));
       upper.setHeight(room.height() - kGap - lower.height());
+      lower.setWidth(upper.width());
       lower.moveTop(upper.bottom() + 1 + kGap);
     } else {
       QRect& front = plane_frame.depth > game_frame.depth ? upper : lower;

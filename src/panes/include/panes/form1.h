@@ -119,7 +119,7 @@ class Form1 {
     change_tables([this] { plane.clear_selected_row(); });
   }
   void Label30_Click() { plane.switch_view(); }
-  void Option1_Click(int index) { plane.set_option(static_cast<PlaneOption>(index)); }
+  void Option1_Click(int index) { plane.choose_option(static_cast<PlaneOption>(index)); }
   void List2_Click(int index) {
     change_tables([this, index] { browser.select_flight_model(index); });
   }

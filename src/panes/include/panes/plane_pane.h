@@ -39,6 +39,9 @@ class PlanePane {
 
   /// Sets one option button, clears the others and shows the list that belongs to it. None is set at start.
   void set_option(PlaneOption option);
+
+  /// What a click on one does.
+  void choose_option(PlaneOption option);
   [[nodiscard]] bool is_set(PlaneOption option) const {
     return Option1[static_cast<std::size_t>(option)].checked;
   }
