@@ -38,7 +38,7 @@ constexpr QSize kSmallestSize{960, 560};
 constexpr QSize kMostSkins{1320, 1000};
 constexpr QSize kMostLoad{560, 480};
 constexpr QSize kMostSave{400, 400};
-constexpr QSize kMostMenus{1080, 600};
+constexpr QSize kMostMenus{1080, 700};
 constexpr QSize kMostHelp{1000, 640};
 
 }  // namespace

@@ -73,7 +73,8 @@ bool is_at_hand(const Form1& form, const Frame& table_frame) {
   const Frame& game = form.game.GameFrame;
   const Frame& other = &table_frame == &plane ? game : plane;
   if (!other.visible) return true;
-  if (form.selection.mode == PaneMode::kFlightModelGroup) return table_frame.depth > other.depth;
+  const bool covered = theme::pixels(table_frame.place).intersects(theme::pixels(other.place));
+  if (covered || form.selection.mode == PaneMode::kFlightModelGroup) return table_frame.depth > other.depth;
   return &table_frame == (form.selection.mode == PaneMode::kGameSet ? &game : &plane);
 }
 

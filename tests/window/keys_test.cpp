@@ -153,6 +153,7 @@ TEST_F(Keys, WhatWasDraggedStaysWhenTheWindowIsResized) {
 }
 
 TEST_F(Keys, OnlyTheWorkAtHandIsGolden) {
+  window().resize(1920, 1080);
   click("Label9(1)");
   click("WhatsLoaded");
   EXPECT_EQ(label("GameLoad").look(), ActionLabel::Look::kPrimary);

@@ -32,7 +32,8 @@ class PaneLayout {
   std::map<const Frame*, QPoint> given_;  ///< corners in twips, to tell what was dragged since
 };
 
-/// Of the two tables that are shown, that of the running work: its main command is the golden one.
+/// Of the two tables that are shown, that of the running work, or the one in front where it covers the other:
+/// its main command is the golden one.
 [[nodiscard]] bool is_at_hand(const Form1& form, const Frame& table_frame);
 
 /// True while another pane lies over the table that the running work is about.
