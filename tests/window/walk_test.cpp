@@ -43,7 +43,7 @@ class Walk : public AircraftWindow {
     folder.write("~Vorlund/GameStore/Himmel/" + long_name("Ciel d'\u00E9t\u00E9") + "/contents.txt",
                  "Un ciel.\r\n");
     folder.write("~Vorlund/CurrentGameSet.txt",
-                 "Folder group\tFolder name\r\nHimmel\t" + "Winter" + "\r\nSounds\tLoud\r\n");
+                 "Folder group\tFolder name\r\nHimmel\tWinter\r\nSounds\tLoud\r\n");
     std::string planes =
         "Standard\r\nSlot\tRegion\tSkinFolder\tPlnDat\tScriptFolder\tPName$\tSide\tFlyable\tRole\tFuel %\r\n";
     for (int record = 0; record < 30; ++record) {
