@@ -13,10 +13,10 @@ namespace vorlund::theme {
 namespace {
 
 constexpr auto kStyleSheet = R"(
-  QListView, QTreeView, QTableView, QPlainTextEdit, QLineEdit {
+  QListView, QTreeView, QTableView, QPlainTextEdit, QTextBrowser, QLineEdit {
     background: #121921; color: #f2f4f6; border: 1px solid #455566; border-radius: 4px;
     selection-background-color: #3f6285; selection-color: #ffffff; }
-  QListView:focus, QTableView:focus, QPlainTextEdit:focus, QLineEdit:focus { border-color: #ffc94d; }
+  QListView:focus, QTableView:focus, QPlainTextEdit:focus, QTextBrowser:focus, QLineEdit:focus { border-color: #ffc94d; }
   QListView::item { padding: 3px 6px; }
   QLineEdit { padding: 4px 6px; }
   QTableView { gridline-color: #2a3643; alternate-background-color: #172029; }

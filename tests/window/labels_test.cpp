@@ -92,6 +92,7 @@ TEST_F(Labels, AnswerToThePressOfAnAssistiveTool) {
 
 TEST_F(Labels, TheStatusLineGrowsWithItsText) {
   restart();
+  window().perform([this] { form().desk.say("ready"); });
   const auto* status = static_cast<QLabel*>(widget("StatusLine"));
   const int one_line = status->parentWidget()->height();
   window().perform([this] { form().desk.say("1\n2\n3\n4\n5\n6\n7"); });
@@ -125,6 +126,7 @@ TEST_F(Labels, APlaneRecordOfEndlessRowsAndCellsIsShown) {
   folder.write("~Vorlund/CurrentPlaneSet.txt", record);
   restart();
   click("WhatsLoaded");
+  click("Label10(1)");
   click_cell(1, PlaneTable::kRegion);
   EXPECT_EQ(table().current_row, 1);
   const auto* view = static_cast<GridView*>(widget("G1"));

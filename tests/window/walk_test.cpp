@@ -306,7 +306,10 @@ void tell(QAccessibleInterface* object, std::map<QString, QAccessible::Role>& to
     QAccessibleInterface* child = object->child(index);
     if (child == nullptr) continue;
     const QString name = child->text(QAccessible::Name);
-    if (!name.isEmpty()) told.emplace(name, child->role());
+    // A heading may bear the name of the list below it.
+    if (!name.isEmpty() && (!told.contains(name) || told[name] == QAccessible::StaticText)) {
+      told[name] = child->role();
+    }
     if (child->role() != QAccessible::Table && child->role() != QAccessible::List) tell(child, told);
   }
 }

@@ -17,7 +17,7 @@ class PaneLayout {
   static constexpr int kStripHeight = 54;  ///< pixels at the top that belong to the table labels alone
 
   /// The room that panes have in a window of this size above a status line of that height.
-  static QRect room_in(const QSize& window, int status_height);
+  [[nodiscard]] static QRect room_in(const QSize& window, int status_height);
 
   /// Places both tables.
   void place_tables(PaneView& plane, Frame& plane_frame, PaneView& game, Frame& game_frame,
