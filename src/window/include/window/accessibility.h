@@ -3,8 +3,8 @@
 
 namespace vorlund {
 
-/// From now on panes are groups with their caption as the name, and pictures that can be clicked are buttons
-/// that can be pressed.
+/// From now on panes are groups with their caption as the name, option buttons are told from check boxes, and
+/// pictures that can be clicked are buttons that can be pressed.
 void speak_to_assistive_tools();
 
 }  // namespace vorlund
