@@ -105,14 +105,6 @@ std::size_t count_career_saves(const GameFolder& game) {
   return list_files(game.files, game.path(kSavedata), kCareerPattern).size();
 }
 
-std::vector<std::string> loose_files(const GameFolder& game) {
-  std::vector<std::string> names = list_files(game.files, game.path(""), kLoosePattern);
-  std::erase_if(names, [](const std::string& name) {
-    return std::find(kSpared.begin(), kSpared.end(), to_upper(name)) != kSpared.end();
-  });
-  return names;
-}
-
 CleanUpSummary clean_game_directory(const GameFolder& game, Status& status, const GameTable& table) {
   Copier copier(game, status);
   // The records are written at the end. Where they can't be, no set was ever installed, and the folder may be
@@ -127,10 +119,11 @@ CleanUpSummary clean_game_directory(const GameFolder& game, Status& status, cons
     summary.careers = move_careers_home(game, copier, table.cell(row, GameTable::kFolder));
     summary.home = careers_home_name(table);
   }
-  const std::vector<std::string> names = loose_files(game);
+  const std::vector<std::string> names = list_files(game.files, game.path(""), kLoosePattern);
   copier.expect(summary.careers + names.size());
   for (const std::string& name : names) {
     copier.reach(name);
+    if (std::find(kSpared.begin(), kSpared.end(), to_upper(name)) != kSpared.end()) continue;
     game.files.remove_file(game.path("\\") + name);
     ++summary.deleted;
   }

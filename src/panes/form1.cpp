@@ -10,6 +10,7 @@
 #include "base/plain_name.h"
 #include "base/text.h"
 #include "disk/copier.h"
+#include "disk/dry_run_file_system.h"
 #include "disk/store.h"
 #include "gamesets/clean_up.h"
 #include "gamesets/game_record.h"
@@ -320,23 +321,16 @@ void Form1::change_tables(const std::function<void()>& change) {
 
 std::string Form1::what_clean_up_would_do() {
   try {
-    const GameFolder folder = desk.game();
-    const std::size_t saves = count_career_saves(folder);
-    const std::size_t files = loose_files(folder).size();
-    const std::string home = careers_home_name(game.G2);
-    std::string text;
-    if (saves > 0) {
-      text = home.empty() ? "Leaves " + counted(saves, "career save", "career saves") +
-                                " where they are: no row names their home"
-                          : "Brings " + counted(saves, "career save", "career saves") + " home to " + home;
-      text += ", and ";
+    DryRunFileSystem dry(desk.files);
+    const GameFolder folder{dry, desk.directory.Label16.caption};
+    Status nobody;
+    std::string text = "Would come to: " + clean_game_directory(folder, nobody, game.G2).sentence();
+    if (const std::size_t stay = count_career_saves(folder); stay > 0) {
+      text += "; " + counted(stay, "career save stays", "career saves stay") + ", for no row names a home";
     }
-    text += files == 0 ? "finds no loose file to delete"
-                       : "deletes " + counted(files, "loose file", "loose files");
-    if (!desk.files.take_unseen().empty()) text += ", as far as there is the right to look";
-    return "\"Clean Up\" " + text + "; both tables are emptied";
+    return dry.take_unseen().empty() ? text : text + "; as far as there is the right to look";
   } catch (const std::exception& error) {
-    return std::string("What \"Clean Up\" would do can't be told: ") + error.what();
+    return std::string("Would end with an error: ") + error.what();
   }
 }
 

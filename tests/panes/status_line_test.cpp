@@ -171,6 +171,24 @@ TEST_F(StatusLine, SaysAtOnceWhatARecordCanNotSpell) {
   EXPECT_EQ(said(), "Saved as \"Day\"" + warning);
 }
 
+TEST_F(StatusLine, TellsBeforehandWhatACleanUpComesToAndTouchesNothing) {
+  folder.write("~Vorlund/CurrentGameSet.txt", "Folder group\tFolder name\r\nCareers\tCamp1\r\n");
+  folder.write("Savedata/c1.sve", "one");
+  folder.write("Savedata/c2.sve", "two");
+  folder.write("sky.pal", "dusk");
+  start();
+  const auto before = folder.tree();
+  const std::string said_before = said();
+  EXPECT_EQ(form->what_clean_up_would_do(),
+            "Would come to: 2 career saves brought home to Careers\\Camp1; 1 loose file deleted");
+  EXPECT_EQ(folder.tree(), before);
+  EXPECT_EQ(said(), said_before);
+  form->game.G2.set_cell(1, GameTable::kFolder, "Gone");
+  EXPECT_TRUE(form->what_clean_up_would_do().starts_with("Would end with an error: "))
+      << form->what_clean_up_would_do();
+  EXPECT_EQ(folder.tree(), before);
+}
+
 TEST_F(StatusLine, KeepsTheChosenSetUpsMarkedUntilTheyAreTakenBack) {
   start().Label12_Click();
   form->File2_Click(0);

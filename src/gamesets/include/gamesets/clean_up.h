@@ -4,7 +4,6 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "disk/game_folder.h"
 #include "disk/status.h"
@@ -30,9 +29,6 @@ struct CleanUpSummary {
 
 /// Number of career saves in "Savedata".
 [[nodiscard]] std::size_t count_career_saves(const GameFolder& game);
-
-/// The files in the game directory itself that a clean-up deletes.
-[[nodiscard]] std::vector<std::string> loose_files(const GameFolder& game);
 
 /// Moves the career saves ("c*.sve" in "Savedata") into the folder that the careers row names, then deletes
 /// from the game directory itself the loose files that sets put there. A save is deleted from "Savedata" only
