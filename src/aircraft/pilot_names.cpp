@@ -20,7 +20,7 @@ constexpr std::size_t kNames = static_cast<std::size_t>(kPlaneCount);
 constexpr std::size_t kFirstPosition = 4 * kNames;
 static_assert(kTable + kFirstPosition == 128, "the offset of the first name in the game's own pnames.str");
 constexpr int kSignedLimit = 32768;
-constexpr std::uint64_t kLongestRead = 128 * 1024;  // past every position that a field can hold
+constexpr std::uint64_t kLongestRead = 128 << 10;  // past every position that a field can hold
 
 std::string two_bytes_padded(std::size_t value) {
   return {static_cast<char>(value & 0xFF), static_cast<char>(value >> 8 & 0xFF), '\0', '\0'};
@@ -59,7 +59,7 @@ std::string compose_pilot_names(const std::vector<std::string>& names, std::stri
 
 std::vector<std::string> parse_pilot_names(std::string_view bytes, std::string_view path) {
   field(bytes, 0, path);
-  const std::size_t count = static_cast<std::size_t>(field(bytes, 4, path));
+  const auto count = static_cast<std::size_t>(field(bytes, 4, path));
   std::vector<std::string> names(kNames);
   for (std::size_t index = 0; index < std::min(count, kNames); ++index) {
     const std::size_t entry = kTable + 4 * index;

@@ -11,7 +11,7 @@ namespace vorlund {
 
 namespace {
 
-constexpr std::size_t kBlock = 16 * 1024;
+constexpr std::size_t kBlock = 16 << 10;
 
 }  // namespace
 

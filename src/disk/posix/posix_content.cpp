@@ -16,7 +16,7 @@ namespace vorlund {
 
 namespace {
 
-constexpr std::size_t kBlock = 256 * 1024;
+constexpr std::size_t kBlock = 256 << 10;
 constexpr std::size_t kBuffer = kBlock + 1;
 constexpr std::size_t kFirstBlock = 4096;
 

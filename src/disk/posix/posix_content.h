@@ -37,7 +37,7 @@ class PageBlock {
     void operator()(char* bytes) const { ::operator delete[](bytes, kPage); }
   };
 
-  std::unique_ptr<char[], Free> bytes_;
+  std::unique_ptr<char, Free> bytes_;
 };
 
 /// Copies files one after the other through buffers that are used again. Functions throw ActionError.

@@ -33,7 +33,7 @@ SplitPath split_path(std::string_view path) {
       ++at;
       continue;
     }
-    const std::size_t end = static_cast<std::size_t>(
+    const auto end = static_cast<std::size_t>(
         std::find_if(path.begin() + static_cast<std::ptrdiff_t>(at), path.end(), is_separator) -
         path.begin());
     const std::string_view part = path.substr(at, end - at);

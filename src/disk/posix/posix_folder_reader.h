@@ -38,7 +38,7 @@ class PosixFolderReader {
   int descriptor_;
   std::size_t at_ = 0;
   std::size_t filled_ = 0;
-  alignas(8) std::array<char, 32 * 1024> buffer_;
+  alignas(8) std::array<char, 32 << 10> buffer_;
 #else
   DIR* stream_;
 #endif

@@ -2,11 +2,12 @@
 #include "posix/posix_program.h"
 
 #include <fcntl.h>
-#include <signal.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <array>
 #include <cerrno>
+#include <csignal>
 #include <cstdlib>
 
 #include "base/action_error.h"
@@ -102,8 +103,8 @@ void start_detached(const PosixCommand& command, int folder, std::string_view pa
     arguments.push_back(const_cast<char*>(argument.c_str()));
   arguments.push_back(nullptr);
 
-  int ends[2];
-  if (::pipe(ends) != 0) throw_system_error("start", path);
+  std::array<int, 2> ends{};
+  if (::pipe(ends.data()) != 0) throw_system_error("start", path);
   const FileHandle reading(ends[0]);
   FileHandle reporting(ends[1]);
   ::fcntl(ends[0], F_SETFD, FD_CLOEXEC);
