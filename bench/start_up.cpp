@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "measure.h"
+#include "memory.h"
 #include "skin_store.h"
 #include "window/application.h"
 #include "window/main_window.h"
@@ -21,17 +22,6 @@ constexpr int kSkins = 10'000;
 constexpr int kGameGroups = 2;
 constexpr int kFoldersOfGameGroup = 1'000;
 constexpr int kRounds = 9;
-
-/// Memory of this process in MiB, as the kernel counts it.
-double resident_megabytes() {
-  std::ifstream status("/proc/self/status");
-  std::string word;
-  double kilobytes = 0;
-  while (status >> word) {
-    if (word == "VmRSS:") status >> kilobytes;
-  }
-  return kilobytes / 1024;
-}
 
 void paint(QWidget& window) {
   window.repaint();

@@ -7,6 +7,8 @@
 #include <QTest>
 #include <stdexcept>
 
+#include "window/list_view.h"
+
 namespace vorlund {
 
 namespace {
@@ -35,6 +37,12 @@ QWidget* Hand::find(const QString& name) const {
 }
 
 void Hand::click(const QString& name) {
+  if (const ShownElement element = find_element(window_, name); element.list != nullptr) {
+    if (!element.list->isVisible()) refuse(name, "it is not shown");
+    const QRect place = element.list->reach(element.index);
+    if (!place.isValid()) refuse(name, "its list does not show it");
+    return press(*element.list->viewport(), place.center(), name);
+  }
   QWidget* widget = find(name);
   if (widget == nullptr) refuse(name, "it is not shown");
   press(*widget, widget->rect().center(), name);

@@ -14,10 +14,6 @@ namespace vorlund {
 
 namespace {
 
-QString text_of(const QWidget& widget) {
-  return widget.property("text").toString();
-}
-
 void say(const QString& line) {
   std::printf("%s\n", line.toUtf8().constData());
   std::fflush(stdout);
@@ -102,7 +98,7 @@ void Tour::start() {
 
 void Tour::game_work() {
   click("Label9(1)");
-  const QStringList groups = captions("Label1");
+  const QStringList groups = texts("Label1", 0);
   show("game-settings", "\"Make Game Settings\": the groups of the store");
   if (groups.isEmpty()) {
     say("  The store has no game sets.");
@@ -132,7 +128,7 @@ void Tour::game_work() {
 void Tour::choose_game_folder(const Choice& choice, const QString& picture) {
   click_captioned("Label1", choice.group);
   show(picture + "-group", "The group \"" + choice.group + "\" and its folders");
-  const QStringList folders = captions("SelLab");
+  const QStringList folders = texts("SelLab", 0);
   const QString chosen = choice.folder.isEmpty() && !folders.isEmpty() ? folders.first() : choice.folder;
   if (!click_captioned("SelLab", chosen)) {
     say("  The group \"" + choice.group + "\" has no folders.");
@@ -175,7 +171,7 @@ void Tour::process_game_set() {
 void Tour::aircraft_work() {
   click("Label9(0)");
   show("aircraft-settings", "\"Make Aircraft Settings\": the groups of skins");
-  if (captions("Label1").isEmpty()) {
+  if (texts("Label1", 0).isEmpty()) {
     say("  The store has no skins.");
     return;
   }
@@ -187,7 +183,7 @@ void Tour::aircraft_work() {
 
 QString Tour::choose_skin() {
   click("Label1(0)");
-  const QStringList skins = captions("SelLab");
+  const QStringList skins = texts("SelLab", 0);
   if (skins.isEmpty()) {
     click("Label10(2)");
     return {};
@@ -262,18 +258,9 @@ void Tour::save(const QPixmap& picture, const QString& name, const QString& what
 }
 
 bool Tour::click_captioned(const QString& array, const QString& caption) {
-  const qsizetype index = captions(array).indexOf(caption);
+  const qsizetype index = texts(array, 0).indexOf(caption);
   if (index >= 0) click(QString("%1(%2)").arg(array).arg(index));
   return index >= 0;
-}
-
-QStringList Tour::captions(const QString& array) const {
-  QStringList found;
-  for (int index = 0;; ++index) {
-    const QWidget* label = hand_.find(QString("%1(%2)").arg(array).arg(index));
-    if (label == nullptr) return found;
-    found.append(text_of(*label));
-  }
 }
 
 QStringList Tour::texts(const QString& table, int column) const {

@@ -46,7 +46,6 @@ class Tour {
 
   /// Clicks the element of a control array with that caption; false when there is none.
   bool click_captioned(const QString& array, const QString& caption);
-  QStringList captions(const QString& array) const;
 
   /// The texts of a column of a table or list, those of the shown rows.
   QStringList texts(const QString& table, int column) const;

@@ -60,9 +60,11 @@ void FlightModelBrowser::DoFM() {
   selection_.make_group_labels(selection_.Dir1.names);
   plane_.List2.items = Dir3.names;
   plane_.List2.selected = -1;
+  plane_.List2.finder.clear();
   plane_.List2.visible = !Dir3.names.empty();
   plane_.List3.items.clear();
   plane_.List3.selected = -1;
+  plane_.List3.finder.clear();
   for (const std::string& code : PlaneCodeSet()) plane_.List3.items.push_back(to_upper(code));
   plane_.G1.fill_slots();
   plane_.pilot_names.LoadPnames(desk_.game());

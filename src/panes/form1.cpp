@@ -188,6 +188,7 @@ void Form1::open_game_work() {
 void Form1::open_flight_model_choice() {
   selection.Dir5.open(desk.files, desk.game().path(kFlightModels));
   selection.make_group_labels(selection.Dir5.names);
+  selection.mark_flight_model_group();
   say_next(selection.Dir5, kFlightModels, "Choose the group that all flight models are taken from");
 }
 

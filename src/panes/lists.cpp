@@ -6,6 +6,7 @@ namespace vorlund {
 void FileList::refresh(FileSystem& files) {
   names = list_files(files, path, pattern);
   selected = -1;
+  finder.clear();
 }
 
 void FolderList::open(FileSystem& files, std::string_view folder) {

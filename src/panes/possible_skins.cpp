@@ -39,6 +39,7 @@ void PossibleSkins::FillPossibleSkins() {
 
 void PossibleSkins::open() {
   desk_.show_in_front(Frame4);
+  List4.finder.clear();
   List4.selected = List4.items.empty() ? -1 : 0;
   if (List4.items.empty()) {
     show_nothing();
@@ -58,6 +59,11 @@ void PossibleSkins::select(int index) {
   List4.selected = index;
   desk_.say("");
   show_entry();
+}
+
+std::string PossibleSkins::folder_of(int index) const {
+  const std::string& entry = List4.items.at(static_cast<std::size_t>(index));
+  return stays_below(entry) ? desk_.game().path(kSkinFolders) + entry : "";
 }
 
 void PossibleSkins::show_entry() {

@@ -2,6 +2,7 @@
 #include "panes/selection_pane.h"
 
 #include <algorithm>
+#include <unordered_set>
 
 #include "aircraft/flight_model_folder.h"
 #include "aircraft/plane_codes.h"
@@ -54,6 +55,7 @@ void SelectionPane::Label1Make() {
 }
 
 void SelectionPane::make_group_labels(const std::vector<std::string>& names) {
+  found_groups.clear();
   for (std::size_t index = 0; index < names.size(); ++index) {
     if (index > 0) Label1Make();
     Label1.back().caption = names[index];
@@ -64,6 +66,7 @@ void SelectionPane::make_group_labels(const std::vector<std::string>& names) {
 void SelectionPane::remove_group_labels() {
   Label1.resize(1);
   Label1.front().visible = false;
+  Label1.front().text_colour = kWhite;
 }
 
 std::optional<std::string_view> SelectionPane::last_group() const {
@@ -88,6 +91,8 @@ void SelectionPane::open_group(int index) {
   Text1.text.clear();
   Image1.visible = false;
   shows_selection_ = false;
+  found_folders.clear();
+  viewed = -1;
   list_group(group);
   desk_.labels.Label42.caption = group;
   desk_.labels.Label42.visible = true;
@@ -136,22 +141,19 @@ void SelectionPane::list_group(const std::string& group) {
 void SelectionPane::show_selection(int index) {
   desk_.say("");
   SharedLabels& labels = desk_.labels;
+  const std::string folder = folder_of(index);
   current_selection = SelLab.at(static_cast<std::size_t>(index)).caption;
-  const std::string folder = group_folder() + "\\" + current_selection;
+  viewed = index;
   labels.hide_slot_labels();
   labels.SkinLab2.visible = false;
   labels.Label43.caption.clear();
   Text1.text.clear();
-  Image1.picture = {};
+  Image1.picture = first_picture(desk_.files, folder);
   Image1.fallback = load_picture(desk_.files, desk_.game().path(kDefaultPicture));
   const std::string description = folder + std::string(kDescription);
   if (desk_.files.FileExists(description)) {
     const std::string text = decode_text(desk_.files.read_file(description, kLongestDescription));
     for (const std::string_view line : split_lines(text)) Text1.text.append(line).append("\r\n");
-  }
-  const std::vector<std::string> pictures = list_files(desk_.files, folder, kPicturePattern);
-  if (!pictures.empty()) {
-    Image1.picture = load_picture(desk_.files, folder + "\\" + pictures.front());
   }
   if (mode == PaneMode::kAircraftSet) show_slot(folder);
   shows_selection_ = true;
@@ -240,15 +242,32 @@ void SelectionPane::choose_game_folder() {
 void SelectionPane::ShowSelected() {
   const bool games = mode == PaneMode::kGameSet;
   const CellTable& table = games ? static_cast<const CellTable&>(game_.G2) : plane_.G1;
-  for (Label& label : SelLab) {
-    label.text_colour = kWhite;
-    for (int row = 1; row < table.row_count(); ++row) {
-      const bool used = games ? table.cell(row, GameTable::kFolder) == label.caption
-                              : table.cell(row, PlaneTable::kRegion) == current_group &&
-                                    table.cell(row, PlaneTable::kSkinFolder) == label.caption;
-      if (used) label.text_colour = kMarked;
+  std::unordered_set<std::string_view> used;
+  for (int row = 1; row < table.row_count(); ++row) {
+    if (games) {
+      used.insert(table.cell(row, GameTable::kFolder));
+    } else if (table.cell(row, PlaneTable::kRegion) == current_group) {
+      used.insert(table.cell(row, PlaneTable::kSkinFolder));
     }
   }
+  for (Label& label : SelLab) label.text_colour = used.contains(label.caption) ? kMarked : kWhite;
+}
+
+void SelectionPane::mark_flight_model_group() {
+  for (Label& label : Label1) {
+    label.text_colour = label.caption == plane_.G1.flight_model_group ? kMarked : kWhite;
+  }
+}
+
+std::string SelectionPane::folder_of(int index) const {
+  return group_folder() + "\\" + SelLab.at(static_cast<std::size_t>(index)).caption;
+}
+
+void SelectionPane::step_back() {
+  if (found_folders.clear()) return;
+  if (shows_sheet()) return hide();
+  Image1.visible = false;
+  Text1.visible = false;
 }
 
 void SelectionPane::bring_table_to_front() {

@@ -1,6 +1,7 @@
 // Painting of one entry of a table or a list.
 #include "window/entry_delegate.h"
 
+#include "window/entry_model.h"
 #include "window/theme.h"
 
 namespace vorlund {
@@ -18,12 +19,14 @@ void EntryDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
   }
   const QVariant coloured = index.data(Qt::ForegroundRole);
   const QColor colour = coloured.isValid() ? coloured.value<QColor>() : theme::kText;
-  painter->setFont(option.font);
+  QFont font = option.font;
+  font.setBold(index.data(EntryModel::kMarkedRole).toBool());
+  painter->setFont(font);
   painter->setPen(selected && colour == theme::kQuietText ? theme::kText : colour);
   const QRect room = option.rect.adjusted(kMargin, 0, -kMargin, 0);
   painter->drawText(room, Qt::AlignVCenter | Qt::AlignLeft,
-                    option.fontMetrics.elidedText(index.data(Qt::DisplayRole).toString(),
-                                                  option.textElideMode, room.width()));
+                    painter->fontMetrics().elidedText(index.data(Qt::DisplayRole).toString(),
+                                                      option.textElideMode, room.width()));
   if (current_cell_ == CurrentCell::kFramed && index == view_.currentIndex() && view_.hasFocus()) {
     painter->setPen(theme::kAccent);
     painter->setBrush(Qt::NoBrush);

@@ -28,7 +28,7 @@ class Board : public QWidget {
 }  // namespace
 
 LoadPaneView::LoadPaneView(Form1& form, const Perform& perform, QWidget* parent) : PaneView(form, perform) {
-  const LoadPane& pane = form.load_pane;
+  LoadPane& pane = form.load_pane;
   clicked_frame("Frame2", pane.Frame2, parent, &Form1::Frame2_Click);
   auto* backdrop = new PictureView("Image2", PictureFit::kCover, frame_);
   backdrop->setFocusPolicy(Qt::NoFocus);

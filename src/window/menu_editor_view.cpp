@@ -134,8 +134,10 @@ void MenuEditorView::make_entry(QGridLayout* grid, int index) {
 }
 
 QLayout* MenuEditorView::make_names() {
-  auto* list =
-      new ListView("PNameList", "Display names by record", form_.plane.pilot_names.PNameList, frame_);
+  PlanePane& plane = form_.plane;
+  auto* list = new ListView("PNameList", "Display names by record", plane.pilot_names.PNameList,
+                            plane.found_names, frame_);
+  find_in(list, plane.found_names);
   list->set_empty_text("\"Make Aircraft Settings\" reads the names");
   list->setFixedWidth(kPlaneNamesWidth);
   list->setToolTip("The names that the game shows, in the order of its aircraft records");

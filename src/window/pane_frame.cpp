@@ -1,6 +1,7 @@
 // Painting, placing and dragging of a pane.
 #include "window/pane_frame.h"
 
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <algorithm>
@@ -76,6 +77,14 @@ void PaneFrame::mouseMoveEvent(QMouseEvent* event) {
 
 QPoint PaneFrame::dragged_to(const QMouseEvent& event) const {
   return within_reach(place_at_press_ + (event.globalPosition() - pressed_at_).toPoint(), width());
+}
+
+void PaneFrame::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Escape && on_escape) {
+    on_escape();
+  } else {
+    QWidget::keyPressEvent(event);
+  }
 }
 
 void PaneFrame::mouseReleaseEvent(QMouseEvent* event) {

@@ -57,24 +57,39 @@ TextLabel* PaneView::text(const QString& name, const Label& data, Tone tone) {
   return widget;
 }
 
-ListView* PaneView::show_list(ListView* view, const int& selected, IndexedClick handler,
-                              const QString& when_empty) {
+void PaneView::find_in(ListView* view, Finder& finder) {
+  view->on_find = [this, &finder](const std::string& typed) {
+    perform_([&finder, &typed] { finder.typed = typed; });
+  };
+}
+
+ListView* PaneView::show_list(ListView* view, const int& selected, Finder& finder, IndexedClick handler) {
   view->on_select = [this, handler](int index) { run(handler, index); };
-  view->set_empty_text(when_empty);
+  find_in(view, finder);
   also([view, &selected] { view->apply(selected); });
   return view;
 }
 
-ListView* PaneView::list(const char* name, const QString& caption, const ListBox& data, IndexedClick handler,
+ListView* PaneView::list(const char* name, const QString& caption, ListBox& data, IndexedClick handler,
                          const QString& when_empty) {
-  auto* view = show_list(new ListView(name, caption, data.items, board_), data.selected, handler, when_empty);
+  auto* view = show_list(new ListView(name, caption, data.items, data.finder, board_), data.selected,
+                         data.finder, handler);
+  view->set_empty_text(when_empty);
   also([view, &data] { view->setVisible(data.visible); });
   return view;
 }
 
-ListView* PaneView::list(const char* name, const QString& caption, const FileList& data, IndexedClick handler,
+ListView* PaneView::list(const char* name, const QString& caption, FileList& data, IndexedClick handler,
                          const QString& when_empty) {
-  return show_list(new ListView(name, caption, data.names, board_), data.selected, handler, when_empty);
+  auto* view = show_list(new ListView(name, caption, data.names, data.finder, board_), data.selected,
+                         data.finder, handler);
+  view->set_empty_text(when_empty);
+  return view;
+}
+
+ListView* PaneView::labels(const char* array, const QString& caption, const std::vector<Label>& data,
+                           const int& selected, Finder& finder, IndexedClick handler) {
+  return show_list(new ListView(array, caption, data, finder, board_), selected, finder, handler);
 }
 
 OptionButton* PaneView::option(const char* array, int index, const Choice& data, IndexedClick handler) {

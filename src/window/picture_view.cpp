@@ -122,6 +122,7 @@ void PictureView::paintEvent(QPaintEvent*) {
 
 void PictureView::mousePressEvent(QMouseEvent* event) {
   pressed_ = event->button() == Qt::LeftButton;
+  known_ = true;
 }
 
 void PictureView::mouseReleaseEvent(QMouseEvent* event) {
@@ -131,8 +132,15 @@ void PictureView::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void PictureView::mouseDoubleClickEvent(QMouseEvent*) {
-  // The second press of a double click on what opened this picture must not choose it.
+  // The second press of a double click on what opened this picture is no click on it.
   pressed_ = false;
+  if (!known_ && on_second_press) on_second_press();
+  known_ = true;
+}
+
+void PictureView::showEvent(QShowEvent* event) {
+  known_ = false;
+  QWidget::showEvent(event);
 }
 
 void PictureView::keyPressEvent(QKeyEvent* event) {

@@ -110,7 +110,7 @@ QLayout* PlanePaneView::lay_out_options() {
 }
 
 QLayout* PlanePaneView::lay_out_table(GridView* table) {
-  const PlanePane& pane = form_.plane;
+  PlanePane& pane = form_.plane;
   auto* heading = note({});
   heading->setObjectName("ListHeading");
   also([heading, &pane] {

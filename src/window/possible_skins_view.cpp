@@ -8,6 +8,8 @@ namespace vorlund {
 
 namespace {
 
+constexpr int kTile = 124;  // pixels at least
+
 QHBoxLayout* in_a_row(const std::vector<QWidget*>& widgets) {
   auto* row = new QHBoxLayout;
   for (QWidget* widget : widgets) row->addWidget(widget);
@@ -32,7 +34,7 @@ PossibleSkinsView::PossibleSkinsView(Form1& form, const Perform& perform, QWidge
 }
 
 QLayout* PossibleSkinsView::lay_out_list() {
-  const PossibleSkins& pane = form_.possible_skins;
+  PossibleSkins& pane = form_.possible_skins;
   const Label& number = form_.desk.labels.SkinLab3;
   auto* wanted = text("Label38", pane.Label38, Tone::kHeading);
   auto* slot_heading = text("Label36", pane.Label36, Tone::kQuiet);
@@ -72,8 +74,26 @@ QLayout* PossibleSkinsView::lay_out_picture() {
   viewed->addWidget(folder, 1);
   auto* right = new QVBoxLayout;
   right->addLayout(viewed);
-  right->addWidget(shown, 1);
+  right->addWidget(shown, 3);
+  right->addWidget(make_sheet(), 2);
   return right;
+}
+
+QWidget* PossibleSkinsView::make_sheet() {
+  PossibleSkins& pane = form_.possible_skins;
+  auto* sheet = new ContactSheet(
+      "SkinSheet", "Pictures of the possible skins", pane.List4.items, pane.List4.finder, form_.desk.files,
+      [&pane](int index) { return pane.folder_of(index); }, board_);
+  sheet->set_least_width(kTile);
+  sheet->on_select = [this](int index) { run(&Form1::List4_Click, index); };
+  sheet->on_double_click = [this] { run(&Form1::Image4_Click); };
+  find_in(sheet, pane.List4.finder);
+  also([sheet, &pane] {
+    if (!pane.Frame4.visible) sheet->forget_pictures();
+    sheet->setVisible(!pane.List4.items.empty());
+    sheet->apply(pane.List4.selected);
+  });
+  return sheet;
 }
 
 }  // namespace vorlund

@@ -9,7 +9,7 @@
 namespace vorlund {
 
 SavePaneView::SavePaneView(Form1& form, const Perform& perform, QWidget* parent) : PaneView(form, perform) {
-  const SavePane& pane = form.save_pane;
+  SavePane& pane = form.save_pane;
   clicked_frame("SaveFrame", pane.SaveFrame, parent, &Form1::SaveFrame_Click);
   auto* prompt = hint("SavePrompt", [&pane] {
     return QString(pane.kind == SavePane::SaveKind::kGameSet ? "Save the game table under the name"

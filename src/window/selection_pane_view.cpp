@@ -33,6 +33,7 @@ SelectionPaneView::SelectionPaneView(Form1& form, const Perform& perform, QWidge
     : PaneView(form, perform) {
   const SelectionPane& pane = form.selection;
   clicked_frame("Frame3", pane.Frame3, parent, &Form1::Frame3_Click);
+  frame_->on_escape = [this] { run(&Form1::step_back_in_selection); };
   auto* backdrop = picture("Image3", pane.Image3, PictureFit::kCover,
                            "Make a selection, or click here to hide", &Form1::Image3_Click);
   backdrop->setFocusPolicy(Qt::NoFocus);
@@ -59,38 +60,59 @@ QLabel* SelectionPaneView::label(const char* name, double size, const QString& w
   return widget;
 }
 
-QLabel* SelectionPaneView::detail(const char* name, const Label& data, double size) {
+/// Shown beside the list of folders, or with the shown selection alone.
+QLabel* SelectionPaneView::detail(const char* name, const Label& data, double size, Of of) {
   auto* widget = label(name, size);
-  also([widget, &data] {
+  also([this, widget, &data, of] {
+    const bool in_place = of == Of::kGroup || !form_.selection.shows_sheet();
     widget->setText(QString::fromStdString(data.caption));
-    widget->setVisible(data.visible && !data.caption.empty());
+    widget->setVisible(in_place && data.visible && !data.caption.empty());
   });
   return widget;
 }
 
 QWidget* SelectionPaneView::make_selections() {
+  SelectionPane& pane = form_.selection;
   auto* plate = new Plate(frame_);
   stand_on(plate);
-  auto* list = new QScrollArea(plate);
-  list->setObjectName("SelectionLabels");
-  list->setFrameShape(QFrame::NoFrame);
-  list->setFocusPolicy(Qt::NoFocus);
-  list->setWidgetResizable(true);
-  list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  list->setCursor(Qt::ArrowCursor);
-  list->viewport()->setAutoFillBackground(false);
-  selections_board_ = new QWidget;
-  selections_board_->setStyleSheet("background: transparent;");
-  selections_board_->setLayout(new QVBoxLayout);
-  selections_board_->layout()->setSpacing(1);
-  list->setWidget(selections_board_);
-  also([this] { show_selection_labels(); });
+  list_ = labels("SelLab", "Folders of the group", pane.SelLab, pane.viewed, pane.found_folders,
+                 &Form1::SelLab_Click);
+  list_->on_double_click = [this] { run(&Form1::SelLab_DblClick); };
+  list_->arrows_act = [&pane] { return !pane.shows_sheet(); };
+  list_->setFrameShape(QFrame::NoFrame);
+  list_->setStyleSheet("QListView { background: transparent; border: none; }");
+  list_->viewport()->setCursor(Qt::PointingHandCursor);
 
   auto* layout = new QVBoxLayout(plate);
-  layout->addWidget(detail("Label42", form_.desk.labels.Label42, 1.5));
-  layout->addWidget(list, 1);
+  layout->addWidget(detail("Label42", form_.desk.labels.Label42, 1.5, Of::kGroup));
+  layout->addWidget(list_, 1);
   layout->addWidget(label("Image3Hint", 1.0, "Make a selection, or click here to hide"));
   return plate;
+}
+
+QWidget* SelectionPaneView::make_sheet() {
+  SelectionPane& pane = form_.selection;
+  sheet_ = new ContactSheet(
+      "Sheet", "Pictures of the group", pane.SelLab, pane.found_folders, form_.desk.files,
+      [&pane](int index) { return pane.folder_of(index); }, board_);
+  sheet_->on_select = [this](int index) { run(&Form1::SelLab_Click, index); };
+  sheet_->on_double_click = [this] { run(&Form1::SelLab_DblClick); };
+  find_in(sheet_, pane.found_folders);
+  also([this, &pane] { show_sheet(pane.shows_sheet()); });
+  return sheet_;
+}
+
+/// The keyboard goes with the player from the sheet to the list beside the shown selection, and back.
+void SelectionPaneView::show_sheet(bool shown) {
+  if (!form_.selection.Frame3.visible) sheet_->forget_pictures();
+  const bool was_shown = !sheet_->isHidden();
+  if (was_shown && !shown) {
+    came_from_sheet_ = sheet_->hasFocus();
+    if (came_from_sheet_) list_->setFocus(Qt::OtherFocusReason);
+  }
+  sheet_->setVisible(shown);
+  sheet_->apply(form_.selection.viewed);
+  if (!was_shown && shown && came_from_sheet_) sheet_->setFocus(Qt::OtherFocusReason);
 }
 
 QWidget* SelectionPaneView::make_details() {
@@ -106,10 +128,12 @@ QWidget* SelectionPaneView::make_details() {
   slot->addStretch(1);
   auto* advice =
       label("Advice", 1.0,
-            "Click a folder to see its picture and description. Double click it to choose it at once.");
-  also([advice, &pane] { advice->setVisible(!pane.shows_selection()); });
+            "Click a folder to see its picture and description. Double click it to choose it at once. "
+            "Type to find one.");
+  also([advice, &pane] { advice->setVisible(pane.shows_sheet()); });
   auto* shown =
       picture("Image1", pane.Image1, PictureFit::kWhole, "Single click to load", &Form1::Image1_Click);
+  shown->on_second_press = [this] { run(&Form1::SelLab_DblClick); };
   shown->setCursor(Qt::PointingHandCursor);
   shown->setToolTip("A click chooses the folder");
 
@@ -120,6 +144,7 @@ QWidget* SelectionPaneView::make_details() {
   layout->addLayout(slot);
   layout->addWidget(advice);
   layout->addWidget(shown, 500);
+  layout->addWidget(make_sheet(), 1000);
   layout->addWidget(make_description(), 200);
   layout->addStretch(1);
   layout->addLayout(make_commands());
@@ -155,37 +180,18 @@ QLayout* SelectionPaneView::make_commands() {
   auto* commands = new QHBoxLayout;
   commands->addWidget(picture_hint);
   commands->addStretch(1);
-  commands->addWidget(command("Label27", 0, pane.Label27[0], Look::kButton, &Form1::Label27_Click,
-                              "Hides the picture alone"));
-  commands->addWidget(command("Label27", 1, pane.Label27[1], Look::kButton, &Form1::Label27_Click,
-                              "Shows the description, or hides it"));
+  constexpr std::array kTips = {"Hides the picture and shows the group's sheet again",
+                                "Shows the description, or hides it"};
+  for (int index = 0; index < static_cast<int>(pane.Label27.size()); ++index) {
+    const auto at = static_cast<std::size_t>(index);
+    const Label& data = pane.Label27[at];
+    auto* of_selection = command("Label27", index, data, Look::kButton, &Form1::Label27_Click, kTips[at]);
+    also([of_selection, &data, &pane] { of_selection->setVisible(data.visible && !pane.shows_sheet()); });
+    commands->addWidget(of_selection);
+  }
   commands->addWidget(
       command("Label10", 2, pane.Label10, Look::kButton, &Form1::Label10_Click, "Leaves the group (Escape)"));
   return commands;
-}
-
-void SelectionPaneView::show_selection_labels() {
-  if (!form_.selection.Frame3.visible) return;
-  const std::vector<Label>& shown = form_.selection.SelLab;
-  auto* column = static_cast<QVBoxLayout*>(selections_board_->layout());
-  while (column->count() > static_cast<int>(selections_.size())) delete column->takeAt(column->count() - 1);
-  while (selections_.size() > shown.size()) {
-    selections_.back()->hide();
-    selections_.back()->setObjectName(QString());
-    column->removeWidget(selections_.back());
-    selections_.back()->deleteLater();
-    selections_.pop_back();
-  }
-  while (selections_.size() < shown.size()) {
-    const int index = static_cast<int>(selections_.size());
-    auto* row = new ActionLabel(element_name("SelLab", index), Look::kRow, selections_board_);
-    row->on_release = [this, index](const MouseEvent&) { run(&Form1::SelLab_Click, index); };
-    row->on_double_click = [this] { run(&Form1::SelLab_DblClick); };
-    column->addWidget(row);
-    selections_.push_back(row);
-  }
-  column->addStretch(1);
-  for (std::size_t index = 0; index < shown.size(); ++index) selections_[index]->apply(shown[index]);
 }
 
 }  // namespace vorlund

@@ -14,8 +14,8 @@ namespace vorlund::test {
 namespace {
 
 /// The state that holds a control.
-using State =
-    std::variant<Label*, TextBox*, Choice*, Frame*, Picture*, CellTable*, std::vector<std::string>*>;
+using State = std::variant<Label*, TextBox*, Choice*, Frame*, Picture*, CellTable*, std::vector<std::string>*,
+                           std::vector<Label>*>;
 
 struct Control {
   QString name;
@@ -62,8 +62,9 @@ std::vector<Control> controls_of_the_aircraft_pane(Form1& f) {
 
 std::vector<Control> controls_of_the_selection_pane(Form1& f) {
   SharedLabels& labels = f.desk.labels;
+  f.selection.Text1.visible = true;  // what tells of a selection is shown with one
   return {{"Frame3", &f.selection.Frame3},
-          {"Label1(0)", &f.selection.Label1[0]},
+          {"Label1", &f.selection.Label1},
           {"Text1", &f.selection.Text1},
           {"Image1", &f.selection.Image1},
           {"Image3", &f.selection.Image3},
@@ -82,7 +83,7 @@ std::vector<Control> controls_of_the_selection_pane(Form1& f) {
 /// Shown with their pane alone.
 std::vector<Control> selection_labels(Form1& f) {
   f.selection.Frame3.visible = true;
-  return {{"SelLab(0)", &f.selection.SelLab[0]}};
+  return {{"SelLab", &f.selection.SelLab}};
 }
 
 std::vector<Control> controls_of_the_skins_pane(Form1& f) {
@@ -170,6 +171,16 @@ class Controls : public AircraftWindow {
     label->visible = false;
     show();
     return visible && shown->isHidden();
+  }
+
+  bool shows(QWidget* shown, std::vector<Label>* labels) {
+    labels->front().visible = true;
+    labels->front().caption = kProbe;
+    show();
+    const bool visible = !shown->isHidden() && lists_probe(shown);
+    labels->front().visible = false;
+    show();
+    return visible && !lists_probe(shown);
   }
 
   bool shows(QWidget* shown, TextBox* box) {

@@ -59,12 +59,8 @@ class Evening : public ProgramWindow {
     EXPECT_EQ(difference(expected->files(), folder.tree()), "") << when;
   }
 
-  /// The label of an array with that caption.
   QString label_of(const char* array, const std::string& caption) {
-    for (int index = 0;; ++index) {
-      const QString name = element_name(array, index);
-      if (text(name).toStdString() == caption) return name;
-    }
+    return ProgramWindow::label_of(array, QString::fromStdString(caption));
   }
 
   void choose(const std::string& group, const std::string& folder_name) {

@@ -44,7 +44,15 @@ QWidget* ProgramWindow::widget(const QString& name) {
   return found;
 }
 
+bool ProgramWindow::sees(const QString& name) {
+  const ShownElement element = find_element(*window_, name);
+  if (element.list == nullptr) return widget(name)->isVisible();
+  return element.list->isVisible() && element.list->entries().row_of(element.index).isValid();
+}
+
 QString ProgramWindow::text(const QString& name) {
+  const ShownElement element = find_element(*window_, name);
+  if (element.list != nullptr) return element.list->entries().row_of(element.index).data().toString();
   QWidget* found = widget(name);
   if (auto* label = qobject_cast<QLabel*>(found)) return label->text();
   if (auto* button = qobject_cast<QAbstractButton*>(found)) return button->text();
@@ -52,7 +60,29 @@ QString ProgramWindow::text(const QString& name) {
   throw std::runtime_error(name.toStdString() + " shows no text");
 }
 
+QString ProgramWindow::label_of(const char* array, const QString& caption) {
+  const auto* list = dynamic_cast<ListView*>(widget(array));
+  for (int row = 0; list != nullptr && row < list->entries().rowCount(); ++row) {
+    const QModelIndex index = list->entries().index(row);
+    if (index.data().toString() == caption) return element_name(array, list->entries().entry(index));
+  }
+  throw std::runtime_error("no label says " + caption.toStdString());
+}
+
+void ProgramWindow::double_click(const QString& name) {
+  click(name);
+  const ShownElement element = find_element(*window_, name);
+  QTest::mouseDClick(element.list->viewport(), Qt::LeftButton, Qt::NoModifier,
+                     element.list->reach(element.index).center());
+  QApplication::processEvents();
+}
+
 void ProgramWindow::click(const QString& name, Qt::MouseButton button) {
+  if (const ShownElement element = find_element(*window_, name); element.list != nullptr) {
+    const QRect place = element.list->reach(element.index);
+    ASSERT_TRUE(place.isValid()) << name.toStdString() << " is not shown";
+    return click_at(element.list->viewport(), place.center(), button);
+  }
   QWidget* target = widget(name);
   for (QWidget* parent = target->parentWidget(); parent != nullptr; parent = parent->parentWidget()) {
     if (auto* area = qobject_cast<QScrollArea*>(parent)) area->ensureWidgetVisible(target);

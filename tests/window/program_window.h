@@ -31,11 +31,18 @@ class ProgramWindow : public ::testing::Test {
 
   /// The widget of that object name, which must exist.
   QWidget* widget(const QString& name);
-  bool sees(const QString& name) { return widget(name)->isVisible(); }
+
+  /// Whether a control is shown, and its text. Elements of the label arrays are addressed as all others,
+  /// though a list shows them.
+  bool sees(const QString& name);
   QString text(const QString& name);
+
+  /// Name of the element of a label array with that caption, which must exist.
+  QString label_of(const char* array, const QString& caption);
 
   /// Clicks a control, scrolled to first.
   void click(const QString& name, Qt::MouseButton button = Qt::LeftButton);
+  void double_click(const QString& name);
   void click_at(QWidget* target, const QPoint& point, Qt::MouseButton button = Qt::LeftButton);
 
   /// Clicks a cell of `G1`, scrolled to first; the row must be shown.

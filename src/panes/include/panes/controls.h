@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "panes/finder.h"
+
 namespace vorlund {
 
 /// Positions and sizes are in twips: 1/1440 inch, 15 to a pixel at 96 dots per inch.
@@ -55,6 +57,7 @@ struct ListBox {
   std::vector<std::string> items{};
   int selected = -1;  ///< index of the selected item, -1 for none
   bool visible = true;
+  Finder finder{};
 };
 
 struct TextBox {

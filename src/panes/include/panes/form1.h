@@ -144,6 +144,7 @@ class Form1 {
     change_tables([this] { selection.DoSel(); });
   }
   void Frame3_Click() { selection.hide(); }
+  void step_back_in_selection() { selection.step_back(); }
   void Image3_Click() { selection.hide(); }
 
   /// "Hide picture" (0) and "Show/hide details" (1).

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "disk/listing.h"
+#include "panes/finder.h"
 
 namespace vorlund {
 
@@ -15,6 +16,7 @@ struct FileList {
   std::string pattern = "*.*";
   std::vector<std::string> names;
   int selected = -1;  ///< index of the selected name, -1 for none
+  Finder finder{};
 
   /// Takes the listing again; the selection is lost.
   void refresh(FileSystem& files);

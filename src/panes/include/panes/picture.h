@@ -28,4 +28,7 @@ struct Picture {
 /// Reads a picture file; one larger than 256 MiB, or one that is not there, gives no picture.
 PictureFile load_picture(FileSystem& files, std::string_view path);
 
+/// The first picture file of a skin's or a game set's folder, by name; none where it has none.
+PictureFile first_picture(FileSystem& files, const std::string& folder);
+
 }  // namespace vorlund

@@ -27,6 +27,7 @@ class PlanePane {
   Frame Frame1{"Skin and flight model table", false, {4200, 900, 14400, 8400}};
   PlaneTable G1;                           ///< the thirty slots
   PilotNames pilot_names;                  ///< the name list `PNameList`
+  Finder found_names;                      ///< what was typed to find one of them
   Label Label8{"Process!"};                ///< installs the aircraft set
   Label Label3{"Clear the selected row"};  ///< takes the current row out of the set
   Label Label30;  ///< switches between all slots and used ones; says which comes next

@@ -40,6 +40,9 @@ class PossibleSkins {
   /// Selects an entry and shows it.
   void select(int index);
 
+  /// The folder that an entry stands for, "" for one that leads out of the skin store.
+  std::string folder_of(int index) const;
+
   /// Shows the selected entry: its picture and the plane that its files are made for.
   void show_entry();
 

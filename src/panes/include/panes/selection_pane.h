@@ -32,10 +32,13 @@ class SelectionPane {
   Place screen{0, 0, 19200, 10800};
 
   std::vector<Label> Label1;  ///< group labels; element 0 always exists
+  Finder found_groups;        ///< what was typed to find one of them
   FolderList Dir1;            ///< groups of the store that is browsed
   FolderList Dir5;            ///< flight-model groups
   FolderList RegionDir;       ///< folders of the opened group
   std::vector<Label> SelLab;  ///< folders of the opened group; element 0 always exists
+  Finder found_folders;       ///< what was typed to find one of them
+  int viewed = -1;            ///< index of the selection label last clicked in this group, -1 for none
 
   Frame Frame3;
   TextBox Text1{"", false};  ///< description of the shown selection
@@ -77,6 +80,20 @@ class SelectionPane {
 
   /// Puts the shown selection into the table of the running work. While none is shown it does nothing.
   void DoSel();
+
+  /// True while neither picture nor description of a selection is shown: their place is taken by a sheet with
+  /// the pictures of all folders.
+  bool shows_sheet() const { return !Image1.visible && !Text1.visible; }
+
+  /// The folder that selection label `index` stands for.
+  std::string folder_of(int index) const;
+
+  /// One step back: what was typed to find a folder is emptied, else the shown selection left for the sheet,
+  /// else the pane hidden.
+  void step_back();
+
+  /// Marks the group label of the current flight-model group.
+  void mark_flight_model_group();
 
   /// Marks the selection labels whose folders are in use.
   void ShowSelected();

@@ -1,11 +1,6 @@
 // The group labels on screen: columns beside the main menu, scrolled where there are more than fit.
 #pragma once
 
-#include <QScrollArea>
-#include <vector>
-
-#include "panes/form1.h"
-#include "window/action_label.h"
 #include "window/pane_view.h"
 
 namespace vorlund {
@@ -19,9 +14,8 @@ class GroupLabelsView : public PaneView {
 
  private:
   QWidget* parent_;
-  QScrollArea* area_;
-  QWidget* board_;
-  std::vector<ActionLabel*> labels_;
+  ListView* labels_;
+  PaneMode mode_ = PaneMode::kAircraftSet;
 };
 
 }  // namespace vorlund

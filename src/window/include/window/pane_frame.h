@@ -20,6 +20,8 @@ class PaneFrame : public QWidget {
   /// Called with the free area's presses and releases: those that move the pane, or of a click that hides it.
   std::function<void(const MouseEvent&)> on_press;
   std::function<void(const MouseEvent&)> on_release;
+  /// Called for Escape where the pane does more about it than to close; null otherwise.
+  std::function<void()> on_escape;
 
   /// Layout that the content goes into.
   QVBoxLayout* content() const { return content_; }
@@ -39,6 +41,7 @@ class PaneFrame : public QWidget {
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
 
  private:
   QPoint within_reach(const QPoint& corner, int width) const;

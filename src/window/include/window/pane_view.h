@@ -65,10 +65,13 @@ class PaneView {
   ActionLabel* command(const char* array, int index, const Label& data, Look look, IndexedClick handler,
                        const QString& tool_tip = {});
   TextLabel* text(const QString& name, const Label& data, Tone tone);
-  ListView* list(const char* name, const QString& caption, const ListBox& data, IndexedClick handler,
+  ListView* list(const char* name, const QString& caption, ListBox& data, IndexedClick handler,
                  const QString& when_empty);
-  ListView* list(const char* name, const QString& caption, const FileList& data, IndexedClick handler,
+  ListView* list(const char* name, const QString& caption, FileList& data, IndexedClick handler,
                  const QString& when_empty);
+  /// A label array as a list of what is seen of it.
+  ListView* labels(const char* array, const QString& caption, const std::vector<Label>& data,
+                   const int& selected, Finder& finder, IndexedClick handler);
   OptionButton* option(const char* array, int index, const Choice& data, IndexedClick handler);
   CheckBox* check_box(const char* name, const Choice& data, Click handler);
   PictureView* picture(const char* name, const Picture& data, PictureFit fit, const QString& caption,
@@ -79,6 +82,9 @@ class PaneView {
 
   /// A text of the window's own of as many lines as it needs, which `words` gives each time.
   QLabel* hint(const char* name, std::function<QString()> words);
+
+  /// Makes a list take what is typed into it.
+  void find_in(ListView* view, Finder& finder);
 
   /// Something else to be shown in its turn.
   void also(std::function<void()> show) { shows_.push_back(std::move(show)); }
@@ -96,7 +102,7 @@ class PaneView {
  private:
   PaneFrame* make_frame(const char* name, const Frame& data, PaneFrame::FreeArea free_area, QWidget* parent);
   ActionLabel* show_command(ActionLabel* widget, const Label& data, const QString& tool_tip);
-  ListView* show_list(ListView* view, const int& selected, IndexedClick handler, const QString& when_empty);
+  ListView* show_list(ListView* view, const int& selected, Finder& finder, IndexedClick handler);
 
   Perform perform_;
   std::function<void()> close_;

@@ -29,6 +29,8 @@ class PictureView : public QWidget {
   PictureView(const QString& name, PictureFit fit, QWidget* parent);
 
   std::function<void()> on_click;
+  /// The second press of a double click whose first one brought the picture under the pointer.
+  std::function<void()> on_second_press;
 
   void apply(const Picture& picture);
 
@@ -37,6 +39,7 @@ class PictureView : public QWidget {
   void mousePressEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void showEvent(QShowEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
@@ -45,6 +48,7 @@ class PictureView : public QWidget {
   QPixmap shown_;
   QSize shown_for_;
   bool pressed_ = false;
+  bool known_ = false;  ///< it was pressed since it is shown
 };
 
 }  // namespace vorlund

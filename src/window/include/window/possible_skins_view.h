@@ -1,6 +1,7 @@
 // The pane of possible skins on screen: the skins that fit, and the picture of one of them.
 #pragma once
 
+#include "window/contact_sheet.h"
 #include "window/pane_view.h"
 
 namespace vorlund {
@@ -13,6 +14,7 @@ class PossibleSkinsView : public PaneView {
  private:
   QLayout* lay_out_list();
   QLayout* lay_out_picture();
+  QWidget* make_sheet();
 };
 
 }  // namespace vorlund

@@ -1,9 +1,7 @@
 // The selection pane on screen: the folders of a group, and the picture and description of one of them.
 #pragma once
 
-#include <QScrollArea>
-#include <vector>
-
+#include "window/contact_sheet.h"
 #include "window/pane_view.h"
 
 namespace vorlund {
@@ -18,12 +16,15 @@ class SelectionPaneView : public PaneView {
   QWidget* make_details();
   QLayout* make_commands();
   QWidget* make_description();
-  QLabel* detail(const char* name, const Label& data, double size = 1.0);
+  enum class Of { kGroup, kSelection };
+  QLabel* detail(const char* name, const Label& data, double size = 1.0, Of of = Of::kSelection);
   QLabel* label(const char* name, double size, const QString& words = {});
-  void show_selection_labels();
+  QWidget* make_sheet();
+  void show_sheet(bool shown);
 
-  QWidget* selections_board_ = nullptr;
-  std::vector<ActionLabel*> selections_;
+  ListView* list_ = nullptr;
+  ContactSheet* sheet_ = nullptr;
+  bool came_from_sheet_ = false;  ///< to the shown selection, with the keyboard
 };
 
 }  // namespace vorlund
