@@ -108,7 +108,7 @@ int browse_skins(int argc, char** argv) {
     const double screen = seconds_of([&] {
       frame = seconds_of([&] {
         window.perform([&] { form.Label1_Click(0); });
-        window.repaint();
+        static_cast<QWidget&>(window).repaint();
       });
       while (!is_complete(*sheet)) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     });

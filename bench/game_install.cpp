@@ -6,7 +6,9 @@
 #include <memory>
 #include <stdexcept>
 #include <string>
+#include <vector>
 
+#include "disk/dry_run_file_system.h"
 #include "gamesets/game_installer.h"
 #include "measure.h"
 #include "plain_loops.h"
@@ -105,6 +107,21 @@ double GameInstall::run_program() const {
   GameSetSummary summary;
   const double seconds = seconds_of([&] { summary = install_game_set(game, status, table); });
   if (summary.copied + summary.unchanged != files_) throw std::runtime_error("not every file was installed");
+  return seconds;
+}
+
+double GameInstall::run_forecast() const {
+  const std::unique_ptr<FileSystem> files = make_platform_file_system();
+  DryRunFileSystem dry(*files);
+  Status status;
+  GameTable table;
+  table.add_row({"Group", "Set"});
+  std::vector<ForeseenFile> foreseen;
+  const double seconds = seconds_of([&] {
+    install_game_set({dry, game_.string()}, status, table);
+    foreseen = dry.foreseen();
+  });
+  if (foreseen.size() != files_) throw std::runtime_error("not every file was foretold");
   return seconds;
 }
 

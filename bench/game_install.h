@@ -38,6 +38,9 @@ class GameInstall {
   /// Installs the set; returns the seconds it took. Throws where not every file was dealt with.
   double run_program() const;
 
+  /// Foretells the installation of the set, every file's net change included; returns the seconds it took.
+  double run_forecast() const;
+
   /// Does the same work with the reference; returns the seconds it took.
   double run_reference(Reference reference) const;
 

@@ -1,14 +1,13 @@
 // Measures the installer of game sets against plain loops and cp: install_bench FOLDER GROWTH-FILE [Google
 // Benchmark options].
 #include <benchmark/benchmark.h>
-#include <malloc.h>
 
 #include <cstdio>
-#include <fstream>
 #include <string>
 #include <vector>
 
 #include "comparison.h"
+#include "memory.h"
 
 namespace vorlund::bench {
 
@@ -29,20 +28,6 @@ void report(benchmark::State& state, const Result& result) {
   state.counters["figure"] = result.figure;
   state.counters["most"] = result.most;
   results.push_back(result);
-}
-
-/// Most memory of this process so far, in MiB, since it was last forgotten.
-double peak_memory() {
-  std::ifstream lines("/proc/self/status");
-  for (std::string line; std::getline(lines, line);) {
-    if (line.starts_with("VmHWM:")) return std::stod(line.substr(6)) / 1024;
-  }
-  return 0;
-}
-
-void forget_peak_memory() {
-  ::malloc_trim(0);
-  std::ofstream("/proc/self/clear_refs") << "5";
 }
 
 void remember(benchmark::State& state, const char* name, std::uint64_t files, std::uint64_t bytes) {

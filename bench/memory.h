@@ -1,20 +1,36 @@
-// The memory of the measuring process.
+// How much memory the measuring process takes, as Linux tells it.
 #pragma once
+
+#include <malloc.h>
 
 #include <fstream>
 #include <string>
+#include <string_view>
 
 namespace vorlund::bench {
 
-/// Memory of this process in MiB, as the kernel counts it.
-inline double resident_megabytes() {
-  std::ifstream status("/proc/self/status");
-  std::string word;
-  double kilobytes = 0;
-  while (status >> word) {
-    if (word == "VmRSS:") status >> kilobytes;
+/// A figure of the kernel's account of this process, say "VmRSS:", in MiB.
+inline double accounted_memory(std::string_view field) {
+  std::ifstream lines("/proc/self/status");
+  for (std::string line; std::getline(lines, line);) {
+    if (line.starts_with(field)) return std::stod(line.substr(field.size())) / 1024;
   }
-  return kilobytes / 1024;
+  return 0;
+}
+
+/// Memory of this process now, in MiB.
+inline double resident_megabytes() {
+  return accounted_memory("VmRSS:");
+}
+
+/// Most memory of this process so far, in MiB, since it was last forgotten.
+inline double peak_memory() {
+  return accounted_memory("VmHWM:");
+}
+
+inline void forget_peak_memory() {
+  ::malloc_trim(0);
+  std::ofstream("/proc/self/clear_refs") << "5";
 }
 
 }  // namespace vorlund::bench

@@ -122,6 +122,10 @@ void Tour::game_work() {
   click("Label2");
   show("game-table", "\"Show Game Table\": the rows, the last to be installed at the end");
   arrange_rows();
+  click("Contents(1)");
+  show("game-folder",
+       "\"What is in the folder?\": what \"Process!\" would do, and where each file comes from");
+  click("ContentsHide");
   process_game_set();
 }
 

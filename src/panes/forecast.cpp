@@ -60,7 +60,7 @@ class Recorder final : public Status {
     patches_.push_back({{row_, file_, first, bytes.size()}, std::hash<std::string_view>()(bytes)});
   }
 
-  const std::vector<SeenPatch>& patches() const { return patches_; }
+  [[nodiscard]] const std::vector<SeenPatch>& patches() const { return patches_; }
 
  private:
   void leave_if_wanted() const {

@@ -46,7 +46,8 @@ Form1::Form1(FileSystem& files, Status& observer, Version version)
   int top = kMenuTop;
   for (Label& entry : Label9) place_label(entry, std::exchange(top, top + kLabelStep));
   top += 300;
-  for (Label* label : {&WhatsLoaded, &Label18, &Label5, &Label7, &ExitButton, &DelMSN}) {
+  for (Label* label :
+       {&WhatsLoaded, &Label18, &Label5, &Label7, &ExitButton, &contents.Contents[0], &DelMSN}) {
     place_label(*label, std::exchange(top, top + kLabelStep));
   }
   DelMSN.place.height = kTwoLineHeight;
@@ -283,6 +284,10 @@ void Form1::choose_possible_skin() {
   browser.apply_matched_skin();
 }
 
+void Form1::look_into_folder() {
+  contents.look({game.G2, plane.G1, plane.pilot_names, menu_editor.menu});
+}
+
 void Form1::act(const std::function<void()>& action) {
   const FolderLocks locks =
       desk.files.lock_folders(written_folders(desk.game(), game.G2), std::chrono::milliseconds(0));
@@ -309,6 +314,7 @@ void Form1::change_tables(const std::function<void()>& change) {
   history_.note({});  // the slots that opening the aircraft settings has added, say
   change();
   history_.note(desk.outcome());
+  if (game.GameFrame.visible) game.mark_rows();
   selection.ShowSelected();
   const std::string home = careers_home_name(game.G2);
   if (home == home_before) return;

@@ -23,7 +23,11 @@ void EntryDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
   font.setBold(index.data(EntryModel::kMarkedRole).toBool());
   painter->setFont(font);
   painter->setPen(selected && colour == theme::kQuietText ? theme::kText : colour);
-  const QRect room = option.rect.adjusted(kMargin, 0, -kMargin, 0);
+  QRect room = option.rect.adjusted(kMargin, 0, -kMargin, 0);
+  if (const QString mark = index.data(kMarkRole).toString(); !mark.isEmpty()) {
+    painter->drawText(room, Qt::AlignVCenter | Qt::AlignRight, mark);
+    room.setRight(room.right() - option.fontMetrics.horizontalAdvance(mark) - kMargin);
+  }
   painter->drawText(room, Qt::AlignVCenter | Qt::AlignLeft,
                     painter->fontMetrics().elidedText(index.data(Qt::DisplayRole).toString(),
                                                       option.textElideMode, room.width()));

@@ -15,6 +15,8 @@ GamePaneView::GamePaneView(Form1& form, const Perform& perform, QWidget* parent)
   auto* table = new GridView("G2", "Game Frame", pane.G2, GamePane::kColumnWidths, frame_);
   table->on_click = table->on_move = [this](int row, int) { run(&Form1::G2_Click, row); };
   table->set_empty_text("No row names a folder yet: \"Make Game Settings\" in the menu shows what there is");
+  table->grid_model().mark = [&pane](int row) { return pane.mark(row); };
+  table->grid_model().mark_in_words = [&pane](int row) { return pane.mark_in_words(row); };
   also([table] { table->apply(); });
   table->on_delete = [this] { run(&Form1::Label28_Click); };
   table->setToolTip("The folders that are installed, from top to bottom: a later one wins");
@@ -31,12 +33,16 @@ GamePaneView::GamePaneView(Form1& form, const Perform& perform, QWidget* parent)
                        "Saves the game table under a name");
   auto* load = command("Label12", form.load_pane.Label12, Look::kButton, &Form1::Label12_Click,
                        "Shows the saved set-ups");
+  auto* contents =
+      command("Contents(1)", form.contents.Contents[1], Look::kButton, &Form1::Contents_Click,
+              "Tells what \"Process!\" would write, where each file comes from, and what is wrong");
   auto* hide = command("Label10", 1, pane.Label10, Look::kButton, &Form1::Label10_Click,
                        "Hides the game table (Escape)");
 
   auto* rows = new QHBoxLayout;
   rows->addWidget(clear);
   rows->addWidget(move, 1);
+  rows->addWidget(contents);
   auto* commands = new QHBoxLayout;
   commands->addWidget(process, 2);
   for (ActionLabel* label : {save, load, hide}) commands->addWidget(label, 1);

@@ -62,13 +62,22 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
     case Qt::DisplayRole:
       return QString::fromStdString(grid_.cell(row, index.column()));
     case Qt::ToolTipRole:
-      return theme::literal(QString::fromStdString(grid_.cell(row, index.column())));
+      return tool_tip(row, index.column());
+    case EntryDelegate::kMarkRole:
+      return mark && index.column() + 1 == columns_ ? QString::fromStdString(mark(row)) : QString();
     case Qt::ForegroundRole:
       if (cycles && cycles(row, index.column())) return theme::kAccent;
       return index.column() == 0 ? theme::kQuietText : theme::kText;
     default:
       return {};
   }
+}
+
+QString GridModel::tool_tip(int row, int column) const {
+  std::string text = grid_.cell(row, column);
+  const std::string words = mark_in_words ? mark_in_words(row) : std::string();
+  if (!words.empty()) text += "\n" + words;
+  return theme::literal(QString::fromStdString(text));
 }
 
 QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const {

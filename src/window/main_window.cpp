@@ -2,16 +2,19 @@
 #include "window/main_window.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QHBoxLayout>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScreen>
 #include <QShortcut>
 #include <algorithm>
+#include <utility>
 
 #include "version.h"
 #include "window/accessibility.h"
 #include "window/action_label.h"
+#include "window/contents_view.h"
 #include "window/directory_view.h"
 #include "window/game_pane_view.h"
 #include "window/group_labels_view.h"
@@ -33,13 +36,15 @@ namespace {
 constexpr int kStatusHeight = 34;
 constexpr int kAroundStatus = 16;  // pixels above and below a status of several lines
 constexpr int kPaintEveryMilliseconds = 50;
-constexpr QSize kUsualSize{1800, 980};  // so large that both tables have room
+constexpr int kShownAfterMilliseconds = 100;  // what only reads shows its progress if it takes longer
+constexpr QSize kUsualSize{1800, 980};        // so large that both tables have room
 constexpr QSize kSmallestSize{960, 560};
 constexpr QSize kMostSkins{1320, 1000};
 constexpr QSize kMostLoad{560, 480};
 constexpr QSize kMostSave{400, 400};
 constexpr QSize kMostMenus{1080, 700};
 constexpr QSize kMostHelp{1000, 640};
+constexpr QSize kMostContents{1500, 1000};
 
 }  // namespace
 
@@ -111,6 +116,7 @@ void MainWindow::add_views() {
   add_pane(std::make_unique<PossibleSkinsView>(*form_, perform, this), form_->possible_skins.Frame4);
   add_pane(std::make_unique<LoadPaneView>(*form_, perform, this), form_->load_pane.Frame2);
   add_pane(std::make_unique<SavePaneView>(*form_, perform, this), form_->save_pane.SaveFrame);
+  add_pane(std::make_unique<ContentsView>(*form_, perform, this), form_->contents.ContentsFrame);
   add_pane(std::make_unique<MenuEditorView>(*form_, perform, this), form_->menu_editor.PMenFrame);
   add_pane(std::make_unique<HelpView>(*form_, perform, this), form_->help.HelpFrame);
 }
@@ -156,7 +162,9 @@ bool MainWindow::start() {
 void MainWindow::perform(const std::function<void()>& handler) {
   if (running_ || failed_ || form_->ended) return;
   running_ = true;
+  leave_wanted_ = false;
   painted_.start();
+  begun_.start();
   try {
     handler();
     progress_bar_->hide();
@@ -192,6 +200,9 @@ void MainWindow::end_working() {
 }
 
 bool MainWindow::eventFilter(QObject*, QEvent* event) {
+  if (event->type() == QEvent::KeyPress && form_->contents.is_reading) {
+    leave_wanted_ = leave_wanted_ || static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape;
+  }
   switch (event->type()) {
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonRelease:
@@ -220,6 +231,9 @@ void MainWindow::report(const std::exception& error) {
 
 void MainWindow::follow_requests() {
   if (form_->ended) QCoreApplication::exit(0);
+  if (std::string text = std::exchange(form_->contents.to_copy, {}); !text.empty()) {
+    QGuiApplication::clipboard()->setText(QString::fromStdString(text));
+  }
   if (form_->minimise_wanted) {
     form_->minimise_wanted = false;
     showMinimized();
@@ -250,6 +264,7 @@ void MainWindow::place_panes() {
   layout_.place(form_->save_pane.SaveFrame, kMostSave, room);
   layout_.place(form_->menu_editor.PMenFrame, kMostMenus, room);
   layout_.place(form_->help.HelpFrame, kMostHelp, room);
+  layout_.place(form_->contents.ContentsFrame, kMostContents, room);
 }
 
 /// As high as its text needs, up to half of the window; what has no room then is in the tooltip.
@@ -293,6 +308,7 @@ void MainWindow::repaint() {
 }
 
 void MainWindow::progress(const Progress& progress) {
+  if (form_->contents.is_reading && begun_.elapsed() < kShownAfterMilliseconds) return;
   begin_working();
   if (progress_bar_->isVisible() && painted_.elapsed() < kPaintEveryMilliseconds) return;
   status_text_->hide();

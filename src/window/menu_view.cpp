@@ -71,6 +71,9 @@ MenuView::MenuView(Form1& form, const Perform& perform, QWidget* parent)
   dragged("Label7", form.Label7, &Form1::Label7_MouseUp, "Minimises this window");
   dragged("ExitButton", form.ExitButton, &Form1::ExitButton_MouseUp,
           "Ends the program; the tables are kept only where they were installed or saved");
+  dragged("Contents(0)", form.contents.Contents[0], &Form1::Contents_MouseUp,
+          "Tells what \"Process!\" and \"Clean Up\" would do, and where each file comes from; nothing is "
+          "written");
   dragged("DelMSN", form.DelMSN, &Form1::DelMSN_MouseUp,
           "Deletes the missions that the game leaves in \"Savedata\"");
   const Label& show = form.desk.labels.Label2;

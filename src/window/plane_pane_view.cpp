@@ -55,6 +55,8 @@ PlanePaneView::PlanePaneView(Form1& form, const Perform& perform, QWidget* paren
   heading->addWidget(group_heading);
   heading->addWidget(group);
   heading->addStretch(1);
+  heading->addWidget(command("Contents(2)", form.contents.Contents[2], Look::kButton, &Form1::Contents_Click,
+                             "Shows what \"Process!\" would write, and where each file comes from"));
   heading->addWidget(menus);
   heading->addWidget(show_all);
 

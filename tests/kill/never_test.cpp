@@ -48,6 +48,8 @@ bool is_career_or_default_mission(const std::string& name) {
 
 class NeverDone : public testing::Test {
  protected:
+  explicit NeverDone(std::string action = "everything") : action_(std::move(action)) {}
+
   void SetUp() override {
     if (!TracedProgram::can_trace()) {
       GTEST_SKIP() << "strace is not installed or may not watch programs here: nothing was watched";
@@ -66,7 +68,7 @@ class NeverDone : public testing::Test {
     }
     before = folder.tree();
     const Ending ending =
-        TracedProgram({WINDOW_ACTION, "everything"}, here("trace/calls")).run_watched(here("game"));
+        TracedProgram({WINDOW_ACTION, action_}, here("trace/calls")).run_watched(here("game"));
     ASSERT_EQ(ending.exit_code, 0);
     calls = read_watched_calls(here("trace/calls"));
   }
@@ -120,6 +122,14 @@ class NeverDone : public testing::Test {
   TemporaryFolder folder;
   std::map<std::string, std::string> before;
   WatchedCalls calls;
+
+ private:
+  std::string action_;
+};
+
+class NeverDoneByALook : public NeverDone {
+ protected:
+  NeverDoneByALook() : NeverDone("look") {}
 };
 
 TEST_F(NeverDone, InARunThatDoesEverything) {
@@ -159,6 +169,31 @@ TEST_F(NeverDone, InARunThatDoesEverything) {
   EXPECT_EQ(calls.programs, std::vector<std::string>{WINDOW_ACTION});
   // Sockets of the machine's own: the C library asks its name service for the user's home.
   for (const std::string& family : calls.networks) EXPECT_EQ(family, "AF_UNIX");
+}
+
+TEST_F(NeverDoneByALook, AnythingIsWrittenButTheSkinListOfTheStart) {
+  const std::string store = here("game/~Vorlund/SkinStore/");
+  for (const std::string& path : calls.written) {
+    const bool is_skin_list = path == store + "SkinList.txt" ||
+                              (path.starts_with(store) && is_staging_name(path.substr(store.size())));
+    EXPECT_TRUE(is_skin_list || is_platforms_own(path)) << "written: " << path;
+  }
+  for (const std::string& path : calls.deleted) {
+    EXPECT_TRUE(is_platforms_own(path) || is_staging_name(path.substr(path.rfind('/') + 1)))
+        << "deleted: " << path;
+  }
+  EXPECT_EQ(calls.other_changes, std::vector<std::string>());
+  EXPECT_EQ(calls.programs, std::vector<std::string>{WINDOW_ACTION});
+  std::map<std::string, std::string> after = folder.tree();
+  std::erase_if(after, [this](const auto& file) {
+    return file.first.starts_with("trace/") || file.first.ends_with("SkinList.txt") ||
+           is_platforms_own(here(file.first));
+  });
+  std::map<std::string, std::string> untouched = before;
+  std::erase_if(untouched, [this](const auto& file) {
+    return file.first.starts_with("trace/") || is_platforms_own(here(file.first));
+  });
+  EXPECT_EQ(after, untouched);
 }
 
 TEST_F(NeverDone, NoFileAppearsThatIsNoGameFileRecordOrSkinList) {

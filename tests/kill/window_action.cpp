@@ -1,6 +1,6 @@
 // Acts in the current folder by clicks on the real window: "install", of the recorded game set,
-// "install-aircraft", of the recorded aircraft set, "clean-up", or "everything": every action of the program
-// that touches files.
+// "install-aircraft", of the recorded aircraft set, "clean-up", "look", which looks into the game folder, or
+// "everything": every action of the program that touches files.
 #include <cstdio>
 #include <exception>
 #include <set>
@@ -32,9 +32,23 @@ void do_everything(vorlund::Hand& hand) {
   for (const char* name : {"Label19", "DelMSN", "Label5", "ExitButton"}) hand.click(name);
 }
 
+/// Looks at all that the pane of the game folder shows, between the two marks.
+void look(vorlund::Hand& hand) {
+  hand.click("Label17");
+  vorlund::test::mark(vorlund::test::kActionBegins);
+  hand.click("Contents(0)");
+  for (int kind = 0; kind < static_cast<int>(vorlund::kContentsKinds.size()); ++kind) {
+    hand.click_row("ContentsKinds", kind);
+  }
+  for (const char* name : {"ContentsAgain", "ContentsCopy", "ContentsHide"}) hand.click(name);
+  vorlund::test::mark(vorlund::test::kActionHasEnded);
+  hand.click("ExitButton");
+}
+
 void click(vorlund::MainWindow& window, std::string_view action) {
   vorlund::Hand hand(window);
   if (action == "everything") return do_everything(hand);
+  if (action == "look") return look(hand);
   if (action != "clean-up") hand.click("WhatsLoaded");
   vorlund::test::mark(vorlund::test::kActionBegins);
   hand.click(action == "install" ? "GameLoad" : action == "install-aircraft" ? "Label8" : "Label5");
@@ -46,8 +60,8 @@ void click(vorlund::MainWindow& window, std::string_view action) {
 
 int main(int argc, char** argv) {
   const std::string_view action = argc == 2 ? argv[1] : "";
-  static const std::set<std::string_view> kActions = {"install", "install-aircraft", "clean-up",
-                                                      "everything"};
+  static const std::set<std::string_view> kActions = {"install", "install-aircraft", "clean-up", "everything",
+                                                      "look"};
   if (!kActions.contains(action)) return 2;
   try {
     return vorlund::run_application(argc, argv,

@@ -11,7 +11,7 @@
 namespace vorlund::test {
 namespace {
 
-/// Does something in the midst of every copy.
+/// Does something in the midst of every copy, and of every copy that is foretold.
 class Interrupted : public ForwardingFileSystem {
  public:
   using ForwardingFileSystem::ForwardingFileSystem;
@@ -20,6 +20,10 @@ class Interrupted : public ForwardingFileSystem {
   CopyOutcome copy_file(std::string_view source, std::string_view target, Durability durability) override {
     in_the_midst();
     return ForwardingFileSystem::copy_file(source, target, durability);
+  }
+  CopyForecast foresee_copy(std::string_view source, std::string_view target) override {
+    in_the_midst();
+    return ForwardingFileSystem::foresee_copy(source, target);
   }
 };
 
@@ -91,6 +95,39 @@ TEST_F(Working, TheCursorWaitsAndTheLabelsAreDimmed) {
   EXPECT_NE(meanwhile, before);
   EXPECT_EQ(QApplication::overrideCursor(), nullptr);
   EXPECT_EQ(widget("Label9(0)")->grab().toImage(), before);
+}
+
+TEST_F(Working, EscapeLeavesALookIntoTheFolderAndNothingElse) {
+  int files = 0;
+  files_.in_the_midst = [&] {
+    ++files;
+    QTest::qSleep(30);
+    if (files > 6) QTest::keyClick(window_.get(), Qt::Key_Escape);
+  };
+  click("Contents(0)");
+  EXPECT_GT(files, 6);
+  EXPECT_LT(files, 20);
+  EXPECT_FALSE(widget("ContentsFrame")->isVisible());
+  files = 0;
+  click("GameLoad");
+  EXPECT_EQ(files, 20);
+  EXPECT_TRUE(folder_.has("19.pal"));
+}
+
+TEST_F(Working, ALookThatTakesLongShowsItsProgress) {
+  bool shown_at_once = false;
+  bool shown = false;
+  int files = 0;
+  files_.in_the_midst = [&] {
+    if (++files == 1) shown_at_once = widget("Progress")->isVisible();
+    QTest::qSleep(20);
+    shown = shown || widget("Progress")->isVisible();
+  };
+  click("Contents(0)");
+  EXPECT_FALSE(shown_at_once);
+  EXPECT_TRUE(shown);
+  EXPECT_TRUE(widget("ContentsFrame")->isVisible());
+  EXPECT_FALSE(widget("Progress")->isVisible());
 }
 
 TEST_F(Working, ClosingTheWindowIsDoneWhenTheActionHasEnded) {

@@ -54,7 +54,7 @@ class PosixFolder {
   bool takes_files_of(PosixFolder& other);
 
   /// True where names can be added and removed; else false, with errno.
-  bool may_be_changed() const;
+  [[nodiscard]] bool may_be_changed() const;
 
   /// Every spelling of the name; none, with errno, when the folder can't be read.
   std::optional<Spellings> spellings(std::string_view name);

@@ -39,7 +39,7 @@ class PosixTarget {
   const struct stat& status() const { return status_; }
 
   /// True when the file that is there is spelled as asked, and has no other spelling.
-  bool is_as_asked() const { return !looked_ || (current_ == name_ && others_.empty()); }
+  [[nodiscard]] bool is_as_asked() const { return !looked_ || (current_ == name_ && others_.empty()); }
 
   /// How much of the file is to be written.
   enum class Writing { kSpelling, kBytes };

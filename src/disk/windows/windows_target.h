@@ -34,7 +34,7 @@ class WindowsTarget {
   WindowsHandle open_to_compare(std::uint64_t size) const;
 
   /// True when the file that is there is spelled as asked.
-  bool is_as_asked() const { return !spelled_otherwise(); }
+  [[nodiscard]] bool is_as_asked() const { return !spelled_otherwise(); }
 
   /// How much of the file is to be written.
   enum class Writing { kSpelling, kBytes };

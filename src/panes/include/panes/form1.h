@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "panes/contents_pane.h"
 #include "panes/desk.h"
 #include "panes/flight_model_browser.h"
 #include "panes/game_pane.h"
@@ -46,6 +47,7 @@ class Form1 {
   SavePane save_pane{desk, game, plane};
   LoadPane load_pane{desk};
   HelpPane help{desk};
+  ContentsPane contents{desk};
 
   Place place{1000, 1000, 0, 0};                 ///< where the window stands on the screen
   Picture background;                            ///< picture of the main window
@@ -191,6 +193,22 @@ class Form1 {
   void HelpLabel_Click() { help.show_or_hide(); }
   void HelpFrame_Click() { help.hide(); }
 
+  // What is in the game folder.
+  void Contents_MouseUp(const MouseEvent& event) {
+    release(contents.Contents[0], event, &Form1::look_into_folder);
+  }
+  void Contents_Click() { look_into_folder(); }
+  void ContentsAgain_Click() { look_into_folder(); }
+  void ContentsKinds_Click(int index) { contents.show_kind(index); }
+  void ContentsFilter_Change(std::string_view typed) { contents.filter(typed); }
+  void ContentsTable_Sort(int column) { contents.sort(column); }
+  void ContentsTable_Select(const std::vector<int>& places) { contents.select(places); }
+  void ContentsChain_Click(int index) { contents.ContentsChain.selected = index; }
+  void ContentsCopy_Click() { contents.copy(); }
+  void ContentsHide_Click() { contents.hide(); }
+  void ContentsFrame_MouseDown(const MouseEvent& event) { drag_.press(event); }
+  void ContentsFrame_MouseUp(const MouseEvent& event) { release_frame(contents.ContentsFrame, event); }
+
   /// Brings career saves home, deletes installed loose files and empties both tables and records.
   void CleanUp() {
     act([this] { clean_up(); });
@@ -236,6 +254,7 @@ class Form1 {
   void install_aircraft();
   void load_set_ups();
   void choose_possible_skin();
+  void look_into_folder();
 
   /// Says in the status line what to do next, or that the folder of the store holds nothing to do it with.
   void say_next(const FolderList& groups, std::string_view store, std::string_view next);

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "gamesets/game_table.h"
+#include "gamesets/row_overlaps.h"
 #include "panes/desk.h"
 
 namespace vorlund {
@@ -35,14 +36,25 @@ class GamePane {
   void clear_selected_row(std::optional<std::string_view> last_group);
   void move_selected_row_to_end();
 
+  /// Works out anew which rows win over which; to be called when the table is opened or has changed.
+  void mark_rows();
+
+  /// The mark of a row beside the selected one: "\u25B2 3" where it replaces 3 of that row's files, "\u25BD
+  /// 3" where that row replaces 3 of its files, and "could go" where later rows replace all that it has.
+  [[nodiscard]] std::string mark(int row) const;
+
+  /// The same in a sentence, "" where there is no mark.
+  [[nodiscard]] std::string mark_in_words(int row) const;
+
   /// Refills the table from a saved set-up.
   void load(std::string_view path);
 
   void hide();
-  void show() { desk_.show_in_front(GameFrame); }
+  void show();
 
  private:
   Desk& desk_;
+  RowOverlaps overlaps_;
 };
 
 }  // namespace vorlund

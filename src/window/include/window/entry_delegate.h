@@ -12,6 +12,9 @@ class EntryDelegate : public QStyledItemDelegate {
  public:
   enum class CurrentCell { kPlain, kFramed };
 
+  /// Role of a short text that stands at the right of the entry and is never cut off.
+  static constexpr int kMarkRole = Qt::UserRole + 1;
+
   static constexpr int kMargin = 7;  ///< pixels left and right of the text
 
   EntryDelegate(QAbstractItemView& view, CurrentCell current_cell);

@@ -5,6 +5,7 @@
 #include <QTableView>
 #include <functional>
 #include <span>
+#include <string>
 #include <vector>
 
 #include "base/cell_table.h"
@@ -35,7 +36,13 @@ class GridModel : public QAbstractTableModel {
   /// Explains a column in the tooltip of its header.
   std::function<QString(int column)> explains;
 
+  /// The mark at the right of a row's last cell, and what its tooltips say of it; "" for none.
+  std::function<std::string(int row)> mark;
+  std::function<std::string(int row)> mark_in_words;
+
  private:
+  QString tool_tip(int row, int column) const;
+
   const CellTable& grid_;
   std::vector<int> shown_;
   int columns_ = 0;

@@ -56,6 +56,7 @@ class MainWindow : public QWidget, private Status {
   void repaint() override;
   void progress(const Progress& progress) override;
   void pulse() override;
+  bool leave_wanted() override { return leave_wanted_ || close_wanted_; }
 
   void add_status_bar();
   void add_views();
@@ -89,7 +90,9 @@ class MainWindow : public QWidget, private Status {
   QPixmap background_;
   QSize background_for_;
   bool running_ = false;
-  bool working_ = false;  ///< the running handler has asked for the screen: it is a long one
+  bool working_ = false;       ///< the running handler has asked for the screen: it is a long one
+  QElapsedTimer begun_;        ///< since the running handler began
+  bool leave_wanted_ = false;  ///< Escape was pressed while it only read
   bool close_wanted_ = false;
   bool failed_ = false;
   bool started_ = false;
