@@ -62,6 +62,7 @@ GroupLabelsView::GroupLabelsView(Form1& form, const Perform& perform, QWidget* p
   labels_ = labels("Label1", "Groups", form.selection.Label1, kNone, form.selection.found_groups,
                    &Form1::Label1_Click);
   labels_->setItemDelegate(new PlateDelegate(*labels_));
+  labels_->setToolTip("A click opens the group; what is typed finds one");
   labels_->setFlow(QListView::TopToBottom);
   labels_->setWrapping(true);
   labels_->setResizeMode(QListView::Adjust);

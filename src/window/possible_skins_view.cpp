@@ -85,6 +85,7 @@ QWidget* PossibleSkinsView::make_sheet() {
       "SkinSheet", "Pictures of the possible skins", pane.List4.items, pane.List4.finder, form_.desk.files,
       [&pane](int index) { return pane.folder_of(index); }, board_);
   sheet->set_least_width(kTile);
+  sheet->setToolTip("A click shows a skin, a double click chooses it; what is typed finds one");
   sheet->on_select = [this](int index) { run(&Form1::List4_Click, index); };
   sheet->on_double_click = [this] { run(&Form1::Image4_Click); };
   find_in(sheet, pane.List4.finder);

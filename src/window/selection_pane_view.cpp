@@ -12,6 +12,9 @@ namespace vorlund {
 
 namespace {
 
+constexpr const char* kOfFolders =
+    "A click shows a folder, a double click chooses it; what is typed finds one";
+
 /// A description as it is shown: laying out a line takes time that grows with the square of its length, so a
 /// line that is longer than anybody's goes on in the next.
 QString in_short_lines(const QString& text) {
@@ -79,6 +82,7 @@ QWidget* SelectionPaneView::make_selections() {
                  &Form1::SelLab_Click);
   list_->on_double_click = [this] { run(&Form1::SelLab_DblClick); };
   list_->arrows_act = [&pane] { return !pane.shows_sheet(); };
+  list_->setToolTip(kOfFolders);
   list_->setFrameShape(QFrame::NoFrame);
   list_->setStyleSheet("QListView { background: transparent; border: none; }");
   list_->viewport()->setCursor(Qt::PointingHandCursor);
@@ -97,6 +101,7 @@ QWidget* SelectionPaneView::make_sheet() {
       [&pane](int index) { return pane.folder_of(index); }, board_);
   sheet_->on_select = [this](int index) { run(&Form1::SelLab_Click, index); };
   sheet_->on_double_click = [this] { run(&Form1::SelLab_DblClick); };
+  sheet_->setToolTip(kOfFolders);
   find_in(sheet_, pane.found_folders);
   also([this, &pane] { show_sheet(pane.shows_sheet()); });
   return sheet_;
@@ -130,6 +135,7 @@ QWidget* SelectionPaneView::make_details() {
       label("Advice", 1.0,
             "Click a folder to see its picture and description. Double click it to choose it at once. "
             "Type to find one.");
+  advice->setWordWrap(true);
   also([advice, &pane] { advice->setVisible(pane.shows_sheet()); });
   auto* shown =
       picture("Image1", pane.Image1, PictureFit::kWhole, "Single click to load", &Form1::Image1_Click);
