@@ -78,7 +78,7 @@ std::string TableHistory::take_back() {
 
 std::string TableHistory::do_again() {
   if (done_ == steps_.size()) return {};
-  const std::string what = steps_[done_].what;
+  std::string what = steps_[done_].what;
   do {
     apply(steps_[done_++], Direction::kForth);
   } while (done_ < steps_.size() && steps_[done_].what.empty());

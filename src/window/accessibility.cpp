@@ -19,13 +19,13 @@ class PressedInterface : public QAccessibleWidget {
   PressedInterface(QWidget& widget, QAccessible::Role role, std::function<void()> press)
       : QAccessibleWidget(&widget, role), press_(std::move(press)) {}
 
-  QStringList actionNames() const override {
+  [[nodiscard]] QStringList actionNames() const override {
     return QAccessibleWidget::actionNames() << QAccessibleActionInterface::pressAction();
   }
   void doAction(const QString& action) override {
     action == QAccessibleActionInterface::pressAction() ? press_() : QAccessibleWidget::doAction(action);
   }
-  QAccessible::State state() const override {
+  [[nodiscard]] QAccessible::State state() const override {
     QAccessible::State now = QAccessibleWidget::state();
     if (const auto* button = qobject_cast<const QAbstractButton*>(widget())) {
       now.checkable = button->isCheckable();

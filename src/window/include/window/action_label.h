@@ -48,7 +48,7 @@ class ActionLabel : public QAbstractButton {
   void apply(const Label& label);
 
   QSize sizeHint() const override;
-  QSize minimumSizeHint() const override;
+  [[nodiscard]] QSize minimumSizeHint() const override;
   int heightForWidth(int width) const override;
 
  protected:

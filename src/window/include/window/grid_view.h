@@ -79,8 +79,8 @@ class GridView : public QTableView {
   void set_empty_text(const QString& text) { empty_text_ = text; }
 
   /// A few rows, and every column as narrow as it may get.
-  QSize minimumSizeHint() const override;
-  QSize sizeHint() const override { return minimumSizeHint(); }
+  [[nodiscard]] QSize minimumSizeHint() const override;
+  [[nodiscard]] QSize sizeHint() const override { return minimumSizeHint(); }
 
  protected:
   void mousePressEvent(QMouseEvent* event) override;
@@ -94,7 +94,7 @@ class GridView : public QTableView {
   enum class Sharing { kOff, kOn };
   void share_room();
   int header_width(int column) const;
-  int least_width(int column) const;
+  [[nodiscard]] int least_width(int column) const;
   int wanted_width(int column) const;
 
   const CellTable& grid_;
