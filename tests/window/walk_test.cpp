@@ -116,6 +116,12 @@ class Walk : public AircraftWindow {
                planes();
                click("PictureMenus");
              }},
+            {"contents", "ContentsFrame",
+             [this] {
+               click("Label9(1)");
+               click("Label2");
+               click("Contents(1)");
+             }},
             {"help", "HelpFrame", [this] { click("HelpLabel"); }}};
   }
 
@@ -197,8 +203,8 @@ TEST_F(Walk, NoTwoTextsOverlap) {
 TEST_F(Walk, PanesLeaveMenuStripAndStatusLineFree) {
   at_every_stop([this](const Stop& stop) {
     const QRect status = place_of(widget("StatusLine")->parentWidget());
-    for (const char* name :
-         {"GameFrame", "Frame1", "Frame3", "Frame4", "Frame2", "SaveFrame", "PMenFrame", "HelpFrame"}) {
+    for (const char* name : {"GameFrame", "Frame1", "Frame3", "Frame4", "Frame2", "SaveFrame", "PMenFrame",
+                             "ContentsFrame", "HelpFrame"}) {
       if (!sees(name)) continue;
       const QRect pane = place_of(widget(name));
       EXPECT_FALSE(pane.intersects(status)) << name;
