@@ -2,6 +2,7 @@
 #include "window/pane_layout.h"
 
 #include <algorithm>
+#include <array>
 
 #include "window/theme.h"
 
@@ -81,13 +82,14 @@ bool is_at_hand(const Form1& form, const Frame& table_frame) {
 bool table_is_covered(const Form1& form) {
   const Frame& table = form.selection.mode == PaneMode::kGameSet ? form.game.GameFrame : form.plane.Frame1;
   const QRect place = theme::pixels(table.place);
-  const auto covers = [&](const Frame& other) {
-    return other.visible && other.depth > table.depth && theme::pixels(other.place).intersects(place);
-  };
-  return table.visible &&
-         (covers(form.game.GameFrame) || covers(form.plane.Frame1) || covers(form.selection.Frame3) ||
-          covers(form.possible_skins.Frame4) || covers(form.load_pane.Frame2) ||
-          covers(form.save_pane.SaveFrame) || covers(form.menu_editor.PMenFrame));
+  const std::array<const Frame*, 9> panes = {
+      &form.game.GameFrame,        &form.plane.Frame1,           &form.selection.Frame3,
+      &form.possible_skins.Frame4, &form.load_pane.Frame2,       &form.save_pane.SaveFrame,
+      &form.menu_editor.PMenFrame, &form.contents.ContentsFrame, &form.help.HelpFrame};
+  return table.visible && std::any_of(panes.begin(), panes.end(), [&](const Frame* other) {
+           return other->visible && other->depth > table.depth &&
+                  theme::pixels(other->place).intersects(place);
+         });
 }
 
 }  // namespace vorlund
