@@ -47,7 +47,7 @@ Form1::Form1(FileSystem& files, Status& observer, Version version)
   for (Label& entry : Label9) place_label(entry, std::exchange(top, top + kLabelStep));
   top += 300;
   for (Label* label :
-       {&WhatsLoaded, &Label18, &Label5, &Label7, &ExitButton, &contents.Contents[0], &DelMSN}) {
+       {&WhatsLoaded, &Label18, &contents.Contents[0], &Label5, &Label7, &ExitButton, &DelMSN}) {
     place_label(*label, std::exchange(top, top + kLabelStep));
   }
   DelMSN.place.height = kTwoLineHeight;

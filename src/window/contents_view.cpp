@@ -17,8 +17,22 @@ namespace {
 constexpr int kKindsWidth = 226;
 constexpr int kChainHeight = 96;
 
-/// Share of the table's width that each column is given first, in hundredths.
+/// Share of the table's width that each column is given, in hundredths; the last has the rest.
 constexpr std::array<int, 5> kShares = {26, 27, 17, 20, 10};
+
+/// A table that gives its columns their shares whenever it is sized.
+class SharedTable : public QTableView {
+ public:
+  using QTableView::QTableView;
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override {
+    QTableView::resizeEvent(event);
+    for (std::size_t column = 0; column + 1 < kShares.size(); ++column) {
+      setColumnWidth(static_cast<int>(column), viewport()->width() * kShares[column] / 100);
+    }
+  }
+};
 
 QVariant colour_of(const ContentsLine& line, int column) {
   if (static_cast<ContentsPane::Column>(column) != ContentsPane::Column::kState) return theme::kText;
@@ -124,7 +138,7 @@ QWidget* ContentsView::make_filter() {
 }
 
 QTableView* ContentsView::make_table() {
-  table_ = new QTableView(frame_);
+  table_ = new SharedTable(frame_);
   table_->setObjectName("ContentsTable");
   table_->setAccessibleName("What is in the game folder");
   table_->setToolTip("A click on a heading sorts; Ctrl+C copies the selected rows");
@@ -169,16 +183,6 @@ void ContentsView::follow_lines() {
       static_cast<int>(form_.contents.sorted_by()),
       form_.contents.is_descending() ? Qt::DescendingOrder : Qt::AscendingOrder);
   following_ = false;
-}
-
-void ContentsView::apply() {
-  const int before = table_->viewport()->width();
-  PaneView::apply();
-  const int width = table_->viewport()->width();
-  if (!frame_->isVisible() || before == width) return;
-  for (std::size_t column = 0; column + 1 < kShares.size(); ++column) {
-    table_->setColumnWidth(static_cast<int>(column), width * kShares[column] / 100);
-  }
 }
 
 }  // namespace vorlund

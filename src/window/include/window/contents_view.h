@@ -31,7 +31,6 @@ class ContentsModel : public QAbstractTableModel {
 class ContentsView : public PaneView {
  public:
   ContentsView(Form1& form, const Perform& perform, QWidget* parent);
-  void apply() override;
 
  private:
   QTableView* make_table();
