@@ -3,6 +3,7 @@
 
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QShortcut>
 #include <algorithm>
@@ -26,6 +27,12 @@ class SharedTable : public QTableView {
   using QTableView::QTableView;
 
  protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    QTableView::keyPressEvent(event);
+    // The focus comes with a current row that is not selected, and no key moves within a single row.
+    if (currentIndex().isValid() && !selectionModel()->hasSelection()) selectRow(currentIndex().row());
+  }
+
   void resizeEvent(QResizeEvent* event) override {
     QTableView::resizeEvent(event);
     for (std::size_t column = 0; column + 1 < kShares.size(); ++column) {

@@ -91,14 +91,17 @@ TEST(OwnFiles, ANameFileThatCannotBeReadSaysSo) {
 TEST(OwnFiles, MenusAreComparedEntryByEntry) {
   PictureMenu menu;
   menu.header = std::string(35, 'h');
-  for (auto& entry : menu.entries) entry.trailer = std::string(15, 't');
+  for (std::size_t index = 0; index < menu.entries.size(); ++index) {
+    menu.entries[index].trailer = std::string(15, 't');
+    menu.set_name(index, "Hurricane");
+  }
   const std::string today = compose_picture_menu(menu, Country::kBritish);
   menu.set_name(1, "Typhoon");
   const auto entries =
       compare_picture_menu(today, compose_picture_menu(menu, Country::kBritish), Country::kBritish);
   ASSERT_EQ(entries.size(), 9U);
   EXPECT_EQ(entries[0].state, "");
-  EXPECT_EQ(entries[1].state, "is \"\", chosen \"Typhoon\"");
+  EXPECT_EQ(entries[1].state, "is \"Hurricane\", chosen \"Typhoon\"");
 }
 
 }  // namespace
