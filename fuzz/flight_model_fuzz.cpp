@@ -8,10 +8,12 @@
 using namespace vorlund;
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  fuzz::Surroundings surroundings;
+  static fuzz::Surroundings surroundings;
+  surroundings.remove(kPlanesData);
   surroundings.write("\\~Vorlund\\FlightModels\\Late\\Spit9\\spit9.oaw", fuzz::as_bytes(data, size));
   Form1& form = surroundings.form;
   PlaneTable& table = form.plane.G1;
+  table.clear_slots();
   form.plane.set_flight_model_group("Late");
   form.browser.DoFM();
   form.Option1_Click(static_cast<int>(PlaneOption::kFindFlightModel));

@@ -31,22 +31,20 @@ class MemoryFileSystem : public FileSystem {
   void start_program(std::string_view path, std::string_view folder) override;
   FolderLocks lock_folders(const std::vector<std::string>&, std::chrono::milliseconds) override { return {}; }
 
-  /// Paths of all files, as they were written.
-  std::vector<std::string> paths() const;
-
  protected:
   void begin_action(Pulse, std::string_view) override {}
   void end_action() override {}
 
  private:
-  struct File {
-    std::string path;
-    std::string bytes;
+  struct ByName {
+    using is_transparent = void;
+    bool operator()(std::string_view a, std::string_view b) const;
   };
+  using Files = std::map<std::string, std::string, ByName>;  // bytes by path, single backslashes
 
-  File& file(std::string_view attempted, std::string_view path);
+  Files::iterator file(std::string_view attempted, std::string_view path);
 
-  std::map<std::string, File, std::less<>> files_;  // by path in upper case, single backslashes
+  Files files_;
 };
 
 }  // namespace vorlund::fuzz

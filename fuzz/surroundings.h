@@ -11,7 +11,8 @@
 
 namespace vorlund::fuzz {
 
-/// The window object in the game directory "C:\Game", which is empty at first; start-up has not been run.
+/// The window object in the game directory "C:\Game", which is empty at first; start-up has not been run. To
+/// make it anew for each input would take more time than most inputs do.
 struct Surroundings {
   MemoryFileSystem files;
   Status status;
@@ -25,6 +26,12 @@ struct Surroundings {
   /// Writes a file of the game directory; the literal begins with a backslash.
   void write(std::string_view literal, std::string_view bytes) {
     files.replace_file(game.path(literal), bytes, Durability::kCached);
+  }
+
+  /// Takes a file of the game directory away, if it is there.
+  void remove(std::string_view literal) {
+    const std::string path = game.path(literal);
+    if (files.FileExists(path)) files.remove_file(path);
   }
 };
 

@@ -34,6 +34,14 @@ char encode_character(char32_t character) {
   return static_cast<char>(found->second);
 }
 
+/// Moves the ASCII characters at the beginning of a text, which are the same in every code page.
+void move_ascii(std::string_view& from, std::string& to) {
+  std::size_t length = 0;
+  while (length < from.size() && static_cast<unsigned char>(from[length]) < 0x80) ++length;
+  to.append(from.substr(0, length));
+  from.remove_prefix(length);
+}
+
 // What Windows-1252 has at 0x80 to 0x9F; 81, 8D, 8F, 90 and 9D are left undefined.
 constexpr std::array<char16_t, 32> kWindows1252Middle = {
     0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
@@ -45,14 +53,25 @@ constexpr std::array<char16_t, 32> kWindows1252Middle = {
 std::string decode_text(std::string_view bytes) {
   std::string text;
   text.reserve(bytes.size());
-  for (const char byte : bytes) append_character(text, code_page_table()[static_cast<unsigned char>(byte)]);
+  while (!bytes.empty()) {
+    move_ascii(bytes, text);
+    if (bytes.empty()) break;
+    append_character(text, code_page_table()[static_cast<unsigned char>(bytes.front())]);
+    bytes.remove_prefix(1);
+  }
   return text;
 }
 
 std::string encode_text(std::string_view text) {
   std::string bytes;
   bytes.reserve(text.size());
-  for (std::size_t at = 0; at < text.size();) bytes.push_back(encode_character(next_character(text, at)));
+  while (!text.empty()) {
+    move_ascii(text, bytes);
+    if (text.empty()) break;
+    std::size_t length = 0;
+    bytes.push_back(encode_character(next_character(text, length)));
+    text.remove_prefix(length);
+  }
   return bytes;
 }
 
