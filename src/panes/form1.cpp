@@ -295,6 +295,7 @@ void Form1::act(const std::function<void()>& action) {
     desk.say("Nothing was done: another program is at work in \"" + locks.in_use() + "\"");
     return;
   }
+  static_cast<void>(desk.files.take_unseen());  // what was looked at before is no part of it
   change_tables(action);
   if (!locks.without_locks().empty() && !std::exchange(told_of_locks_, true)) {
     desk.say_too("The disk of \"" + locks.without_locks() +

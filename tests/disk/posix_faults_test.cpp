@@ -125,14 +125,14 @@ TEST_P(PosixFaults, WhatThereIsNoRightToLookAtDoesNotExistAndIsTold) {
   EXPECT_EQ(files_->take_unseen(), Names()) << "it is told once";
 }
 
-TEST_P(PosixFaults, AnActionBeginsWithNothingUnseen) {
+TEST_P(PosixFaults, WhatWasUnseenBeforeAnActionIsStillTold) {
   action_.reset();
   {
     const FailingCall failing("fstatat", "Planes.dat", EACCES);
     EXPECT_FALSE(files_->FileExists(path("Game\\Planes.dat")));
   }
   action_.emplace(*files_);
-  EXPECT_EQ(files_->take_unseen(), Names());
+  EXPECT_EQ(files_->take_unseen(), Names{path("Game\\Planes.dat")});
 }
 
 TEST_P(PosixFaults, AFileThatThereIsNoRightToLookAtIsNotMadeAnew) {

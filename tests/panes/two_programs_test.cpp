@@ -32,9 +32,14 @@ class PoorFileSystem : public test::StartedInFolder {
     return {std::move(locks), wait};
   }
 
-  std::vector<std::string> take_unseen() override { return std::exchange(unseen, {}); }
+  std::vector<std::string> entries(std::string_view folder) override {
+    told = unseen;
+    return StartedInFolder::entries(folder);
+  }
+  std::vector<std::string> take_unseen() override { return std::exchange(told, {}); }
 
-  std::vector<std::string> unseen;
+  std::vector<std::string> unseen;  ///< what is not seen at any listing
+  std::vector<std::string> told;
 };
 
 class TwoPrograms : public test::FormFixture {

@@ -378,7 +378,6 @@ FolderLocks PosixFileSystem::lock_folders(const std::vector<std::string>& folder
 
 void PosixFileSystem::begin_action(Pulse pulse, std::string_view staging) {
   content_.set_pulse(std::move(pulse));
-  unseen_.clear();
   folders_.remember();
   if (!staging.empty()) staging_ = place_of(join_path(staging, "any"), EntryKind::kFile).folder;
 }

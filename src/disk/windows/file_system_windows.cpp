@@ -62,7 +62,6 @@ class WindowsFileSystem final : public FileSystem {
   /// that it inherited there.
   void begin_action(Pulse pulse, std::string_view) override {
     patience_.set_pulse(std::move(pulse));
-    unseen_.clear();
     folders_.remember();
   }
   void end_action() override {

@@ -100,8 +100,7 @@ class FileSystem {
   virtual bool lies_inside(std::string_view folder, std::string_view root) = 0;
 
   /// The paths that were taken for missing because there was no right to look at them, since this was last
-  /// asked or an Action began; each once, in the order of their bytes. What a link in a listed folder leads
-  /// to counts as well.
+  /// asked; each once, in the order of their bytes. What a link in a listed folder leads to counts as well.
   virtual std::vector<std::string> take_unseen() = 0;
 
   /// Everything directly inside the folder, in no order, without "." and "..". A folder that does not exist
