@@ -1,9 +1,7 @@
 // Writes and reads the text form of an aircraft set.
 #include "aircraft/plane_record.h"
 
-#include <algorithm>
-#include <vector>
-
+#include "base/action_error.h"
 #include "base/code_page.h"
 #include "base/text.h"
 #include "disk/store.h"
@@ -24,16 +22,9 @@ std::string compose_plane_set(const PlaneTable& table) {
 }
 
 void parse_plane_set(std::string_view bytes, PlaneTable& table) {
-  const std::string text = decode_text(bytes);
-  const std::vector<std::string_view> lines = split_lines(text);
-  const std::string_view group = lines.empty() ? std::string_view() : lines.front();
-  table.flight_model_group = group;
+  table.flight_model_group = decode_text(take_line(bytes));
   table.clear();
-  for (std::size_t index = 1; index < lines.size(); ++index) {
-    const std::vector<std::string_view> cells = split_cells(lines[index]);
-    const std::size_t kept = std::min<std::size_t>(cells.size(), PlaneTable::kColumns);
-    table.add_row({cells.begin(), cells.begin() + static_cast<std::ptrdiff_t>(kept)});
-  }
+  table.add_lines(bytes);
   table.g1update();
 }
 
@@ -42,7 +33,7 @@ void write_plane_set(FileSystem& files, std::string_view path, const PlaneTable&
 }
 
 void read_plane_set(FileSystem& files, std::string_view path, PlaneTable& table) {
-  parse_plane_set(files.read_file(path), table);
+  within_memory("read", path, [&] { parse_plane_set(files.read_file(path), table); });
 }
 
 void SavePS(const GameFolder& game, const PlaneTable& table) {

@@ -103,28 +103,25 @@ std::string_view bare_name(std::string_view path) {
   return path.substr(path.rfind('\\') + 1);
 }
 
-std::vector<std::string_view> split_lines(std::string_view text) {
-  std::vector<std::string_view> lines;
-  for (std::size_t at = 0; at < text.size();) {
-    const std::size_t end = text.find_first_of("\r\n", at);
-    if (end == std::string_view::npos) {
-      lines.push_back(text.substr(at));
-      break;
-    }
-    lines.push_back(text.substr(at, end - at));
-    at = end + (text.substr(end, 2) == "\r\n" ? 2 : 1);
-  }
-  return lines;
+std::string_view take_line(std::string_view& text) {
+  const auto ends = [](char character) { return character == '\n' || character == '\r'; };
+  const auto end = std::find_if(text.begin(), text.end(), ends);
+  const std::string_view line = text.substr(0, static_cast<std::size_t>(end - text.begin()));
+  text.remove_prefix(line.size());
+  text.remove_prefix(text.starts_with("\r\n") ? 2 : std::min<std::size_t>(text.size(), 1));
+  return line;
 }
 
-std::vector<std::string_view> split_cells(std::string_view line) {
-  std::vector<std::string_view> cells;
-  for (;;) {
-    const std::size_t end = line.find('\t');
-    cells.push_back(line.substr(0, end));
-    if (end == std::string_view::npos) return cells;
-    line.remove_prefix(end + 1);
-  }
+std::string_view take_cell(std::string_view& line) {
+  const std::string_view cell = line.substr(0, line.find('\t'));
+  line.remove_prefix(std::min(line.size(), cell.size() + 1));
+  return cell;
+}
+
+std::vector<std::string_view> split_lines(std::string_view text) {
+  std::vector<std::string_view> lines;
+  while (!text.empty()) lines.push_back(take_line(text));
+  return lines;
 }
 
 double leading_number(std::string_view text) {

@@ -2,10 +2,9 @@
 #include "gamesets/game_record.h"
 
 #include <string>
-#include <vector>
 
+#include "base/action_error.h"
 #include "base/code_page.h"
-#include "base/text.h"
 #include "disk/store.h"
 
 namespace vorlund {
@@ -22,13 +21,12 @@ void write_game_set(FileSystem& files, std::string_view path, const GameTable& t
 }
 
 void read_game_set(FileSystem& files, std::string_view path, GameTable& table) {
-  const std::string text = decode_text(files.read_file(path));
-  table.clear();
-  for (const std::string_view line : split_lines(text)) {
-    const std::vector<std::string_view> cells = split_cells(line);
-    table.add_row({cells.begin(), cells.end()});
-  }
-  table.g2update();
+  within_memory("read", path, [&] {
+    const std::string bytes = files.read_file(path);
+    table.clear();
+    table.add_lines(bytes);
+    table.g2update();
+  });
 }
 
 void SaveGS(const GameFolder& game, const GameTable& table) {

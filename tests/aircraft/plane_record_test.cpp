@@ -8,6 +8,7 @@
 #include "base/action_error.h"
 #include "base/text.h"
 #include "support/recording_status.h"
+#include "support/scarce_memory.h"
 #include "support/temporary_folder.h"
 
 namespace vorlund {
@@ -140,6 +141,17 @@ TEST(PlaneRecord, StoreThatDoesNotExistIsAnError) {
   const GameFolder game{*files, folder.path()};
   test::RecordingStatus status;
   EXPECT_THROW(SavePS(game, PlaneTable()), ActionError);
+}
+
+TEST(PlaneRecord, ForWhichMemoryDoesNotSufficeIsAnErrorThatNamesIt) {
+  const test::TemporaryFolder folder;
+  std::string bytes = "1944\r\n";
+  for (int row = 0; row < 100000; ++row) bytes += "P38H\tRAF\r\n";
+  folder.write("record.txt", bytes);
+  const auto files = make_platform_file_system();
+  const std::string path = folder.path("record.txt");
+  PlaneTable table;
+  EXPECT_OUT_OF_MEMORY(std::size_t{16} << 20, path, [&] { read_plane_set(*files, path, table); });
 }
 
 }  // namespace

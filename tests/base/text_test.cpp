@@ -145,11 +145,11 @@ TEST(Text, LinesEndInAnyOfTheThreeWays) {
   EXPECT_EQ(split_lines(std::string_view("a\0b\r\n", 5)), (Lines{std::string_view("a\0b", 3)}));
 }
 
-TEST(Text, CellsAreSeparatedByTabs) {
-  using Cells = std::vector<std::string_view>;
-  EXPECT_EQ(split_cells(""), (Cells{""}));
-  EXPECT_EQ(split_cells("Careers\tMy career"), (Cells{"Careers", "My career"}));
-  EXPECT_EQ(split_cells("\t\t"), (Cells{"", "", ""}));
+TEST(Text, CellsAreTakenOffALineOneByOne) {
+  std::string_view line = "Careers\tMy career\t\tend";
+  for (const std::string_view cell : {"Careers", "My career", "", "end", "", ""})
+    EXPECT_EQ(take_cell(line), cell);
+  EXPECT_EQ(line, "");
 }
 
 struct NumberCase {

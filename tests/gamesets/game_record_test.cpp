@@ -7,6 +7,7 @@
 
 #include "base/code_page.h"
 #include "support/recording_status.h"
+#include "support/scarce_memory.h"
 #include "support/temporary_folder.h"
 
 namespace vorlund {
@@ -110,6 +111,19 @@ TEST_F(GameRecord, HoldsAHundredThousandRows) {
   EXPECT_EQ(table.cell(100'000, 1), "Dusk 99999");
   write_game_set(*files, folder.path("again.txt"), table);
   EXPECT_EQ(folder.read("again.txt"), bytes);
+}
+
+TEST(GameRecord, ForWhichMemoryDoesNotSufficeIsAnErrorThatNamesIt) {
+  const test::TemporaryFolder folder;
+  std::string bytes;
+  for (int row = 0; row < 400000; ++row) bytes += "A\tB\r\n";
+  folder.write("record.txt", bytes);
+  const auto files = make_platform_file_system();
+  const std::string path = folder.path("record.txt");
+  GameTable table;
+  for (const std::size_t more : {std::size_t{1} << 19, std::size_t{16} << 20}) {
+    EXPECT_OUT_OF_MEMORY(more, path, [&] { read_game_set(*files, path, table); });
+  }
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 // The one exception that ends an action: what was attempted, on which path, and why it failed.
 #pragma once
 
+#include <new>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -30,5 +31,15 @@ class ActionError : public std::runtime_error {
   std::string path_;
   std::string reason_;
 };
+
+/// Does the work on a file; where memory gives out, that is an ActionError that names the file.
+template <typename Work>
+void within_memory(std::string_view attempted, std::string_view path, Work work) try {
+  work();
+} catch (const std::bad_alloc&) {
+  throw ActionError(attempted, path, kOutOfMemory);
+} catch (const std::length_error&) {
+  throw ActionError(attempted, path, kOutOfMemory);
+}
 
 }  // namespace vorlund

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace vorlund {
@@ -21,6 +22,9 @@ struct CellTable {
 
   /// Adds a row at the end, its cells cut or filled up to the number of columns.
   void add_row(std::vector<std::string> cells);
+
+  /// Adds a row for each line of a record: its cells stand between TABs, in the code page.
+  void add_lines(std::string_view bytes);
 
   /// Text of a cell; "" where there is no such row or column.
   [[nodiscard]] const std::string& cell(int row, int column) const;

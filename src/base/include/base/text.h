@@ -43,11 +43,14 @@ namespace vorlund {
 /// The bare name at the end of a path: what follows its last backslash.
 [[nodiscard]] std::string_view bare_name(std::string_view path);
 
+/// Takes the next line off a text, with its end, and returns it without; see `split_lines`.
+[[nodiscard]] std::string_view take_line(std::string_view& text);
+
+/// Takes the next cell off a line, with the TAB behind it, and returns it without; "" where there is none.
+[[nodiscard]] std::string_view take_cell(std::string_view& line);
+
 /// The lines of a text file: each ended by CR LF, LF or CR; a last line without an end counts.
 [[nodiscard]] std::vector<std::string_view> split_lines(std::string_view text);
-
-/// The cells of a line: the parts between TAB characters, at least one.
-[[nodiscard]] std::vector<std::string_view> split_cells(std::string_view line);
 
 /// The number at the start of the text, else 0: blanks and TABs before it are skipped, then an optional sign,
 /// digits with an optional point, and an optional exponent are read. The point is a point in every locale. A
