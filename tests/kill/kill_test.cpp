@@ -4,28 +4,13 @@
 
 #include <iostream>
 #include <set>
+#include <tuple>
 
-#include "kill/aircraft_under_fire.h"
-#include "kill/careers_under_fire.h"
-#include "kill/game_under_fire.h"
+#include "actions/actions.h"
 #include "kill/traced_program.h"
 
 namespace vorlund::test {
 namespace {
-
-/// What a folder holds that differs from what was expected, by name.
-std::string difference(const Tree& expected, const Tree& found) {
-  std::string report;
-  for (const auto& [name, content] : expected) {
-    const auto other = found.find(name);
-    if (other == found.end()) report += name + " is missing; ";
-    if (other != found.end() && other->second != content) report += name + " differs; ";
-  }
-  for (const auto& [name, content] : found) {
-    if (!expected.contains(name)) report += name + " is left over; ";
-  }
-  return report;
-}
 
 /// How a failing call may end: as on a bad disk, after a signal, and in the ways that the program answers in
 /// its own manner. An open may find no descriptor left, or lack the right, to the file or to leave its time
@@ -55,10 +40,8 @@ bool tells_nothing(const std::string& result) {
 /// A long sweep is shared out among tests that run side by side.
 constexpr int kShares = 4;
 
-/// An action, and the folder that it is killed in. The parameter says which share of the calls is a test's
-/// own.
-template <class Folder>
-class ActionUnderFire : public testing::TestWithParam<int> {
+/// An action, and which share of its calls is a test's own.
+class ActionUnderFire : public testing::TestWithParam<std::tuple<ActionOfProgram, int>> {
  protected:
   void SetUp() override {
     if (!TracedProgram::can_trace()) {
@@ -67,8 +50,8 @@ class ActionUnderFire : public testing::TestWithParam<int> {
   }
 
   /// Kills the action at each call of this share, checks what is left, and then does it again.
-  void kill_at_each_call(const std::string& program_file, const std::string& action) const {
-    const TracedProgram program({program_file, action}, traces_.path() + "/trace");
+  void kill_at_each_call(const std::string& program_file) const {
+    const TracedProgram program({program_file, action()}, traces_.path() + "/trace");
     const Trace trace = undisturbed(program);
     ASSERT_FALSE(trace.during.empty());
     const int kills = at_each_call(trace, [&](const std::string& call, int number, int& offset) {
@@ -79,21 +62,21 @@ class ActionUnderFire : public testing::TestWithParam<int> {
   }
 
   /// The calls that the action makes about files, by name.
-  std::map<std::string, int> calls(const std::string& action) const {
-    return undisturbed(TracedProgram({HEADLESS_ACTION, action}, traces_.path() + "/trace")).during;
+  std::map<std::string, int> calls() const {
+    return undisturbed(TracedProgram({HEADLESS_ACTION, action()}, traces_.path() + "/trace")).during;
   }
 
   /// How the action ends whose flush of that number has that result.
-  int exit_code(const std::string& action, int flush, const std::string& result) const {
+  int exit_code(int flush, const std::string& result) const {
     const TemporaryFolder folder;
-    game_folder_.lay_out(folder);
-    const TracedProgram program({HEADLESS_ACTION, action}, traces_.path() + "/trace");
+    game_folder_->lay_out(folder);
+    const TracedProgram program({HEADLESS_ACTION, action()}, traces_.path() + "/trace");
     return program.run_failed(folder.path(), "fsync", flush, result).exit_code;
   }
 
   /// Lets each call of this share fail, checks what is left, and then does the action again.
-  void fail_each_call(const std::string& program_file, const std::string& action) const {
-    const TracedProgram program({program_file, action}, traces_.path() + "/trace");
+  void fail_each_call(const std::string& program_file) const {
+    const TracedProgram program({program_file, action()}, traces_.path() + "/trace");
     const Trace trace = undisturbed(program);
     ASSERT_FALSE(trace.during.empty());
     int errors = 0;
@@ -102,26 +85,31 @@ class ActionUnderFire : public testing::TestWithParam<int> {
       for (const std::string& result : results_of(call)) {
         SCOPED_TRACE(result);
         const TemporaryFolder folder;
-        game_folder_.lay_out(folder);
+        game_folder_->lay_out(folder);
         const Ending ending = program.run_failed(folder.path(), call, number + offset, result);
         ASSERT_TRUE(ending.exit_code == 0 || ending.exit_code == 1);
         // Where there is no right to look, what is asked for is taken for missing, and its step is left out.
         const bool ended = ending.exit_code == 1;
         const Tree found = folder.tree();
-        ASSERT_EQ(ended ? game_folder_.damage(found) : game_folder_.strays(found), "");
+        ASSERT_EQ(ended ? game_folder_->damage(found) : game_folder_->strays(found), "");
         if (!ended && tells_nothing(result)) {
-          ASSERT_EQ(difference(game_folder_.finished(), found), "");
+          ASSERT_EQ(game_folder_->difference(found), "");
         }
         errors += ending.exit_code;
         ++failures;
         ASSERT_EQ(program.run(folder.path()).exit_code, 0);
-        ASSERT_EQ(difference(game_folder_.finished(), folder.tree()), "");
+        ASSERT_EQ(game_folder_->difference(folder.tree()), "");
       }
     });
     std::cout << "failed " << failures << " times, of which " << errors << " ended the action\n";
     testing::Test::RecordProperty("failures", failures);
     EXPECT_GT(errors, 0);
   }
+
+  std::string action() const { return std::get<0>(GetParam()).name; }
+
+  /// One call in so many is taken. The calls of a loading are those of both installations.
+  virtual int stride() const { return action() == "load" ? 3 : 1; }
 
  private:
   /// Hands every call of this share to `act`: its name, its number in the action, and how many calls of the
@@ -134,7 +122,7 @@ class ActionUnderFire : public testing::TestWithParam<int> {
       const auto before = trace.before.find(call);
       int offset = before == trace.before.end() ? 0 : before->second;
       for (int number = 1; number <= count; ++number) {
-        if (calls++ % kShares != GetParam()) continue;
+        if (calls++ % (kShares * stride()) != std::get<1>(GetParam())) continue;
         SCOPED_TRACE(call + " number " + std::to_string(number) + " of " + std::to_string(count));
         act(call, number, offset);
         if (testing::Test::HasFailure()) return own;
@@ -147,12 +135,12 @@ class ActionUnderFire : public testing::TestWithParam<int> {
   /// Runs the action to its end under strace and checks what it leaves.
   Trace undisturbed(const TracedProgram& program) const {
     const TemporaryFolder folder;
-    game_folder_.lay_out(folder);
+    game_folder_->lay_out(folder);
     Trace trace;
     const Ending ending = program.run_traced(folder.path(), trace);
     EXPECT_EQ(ending.exit_code, 0);
     EXPECT_TRUE(trace.begun && trace.ended);
-    EXPECT_EQ(difference(game_folder_.finished(), folder.tree()), "");
+    EXPECT_EQ(game_folder_->difference(folder.tree()), "");
     return trace;
   }
 
@@ -162,14 +150,14 @@ class ActionUnderFire : public testing::TestWithParam<int> {
     constexpr int kAttempts = 20;
     for (int attempt = 0; attempt < kAttempts; ++attempt) {
       const TemporaryFolder folder;
-      game_folder_.lay_out(folder);
+      game_folder_->lay_out(folder);
       Trace trace;
       const Ending ending = program.run_killed(folder.path(), call, number + offset, trace);
-      ASSERT_EQ(game_folder_.damage(folder.tree()), "");
+      ASSERT_EQ(game_folder_->damage(folder.tree()), "");
       const int met = trace.begun ? trace.during[call] : 0;
       if (ending.killed && !trace.ended && met == number && trace.last_is_about_files) {
         ASSERT_EQ(program.run(folder.path()).exit_code, 0);
-        ASSERT_EQ(difference(game_folder_.finished(), folder.tree()), "");
+        ASSERT_EQ(game_folder_->difference(folder.tree()), "");
         return;
       }
       if (!trace.begun) {
@@ -184,77 +172,69 @@ class ActionUnderFire : public testing::TestWithParam<int> {
   }
 
   TemporaryFolder traces_;
-  Folder game_folder_;
+  std::unique_ptr<FolderUnderFire> game_folder_ = std::get<0>(GetParam()).folder();
 };
 
-using InstallUnderFire = ActionUnderFire<GameUnderFire>;
-using AircraftInstallUnderFire = ActionUnderFire<AircraftUnderFire>;
-using CleanUpUnderFire = ActionUnderFire<CareersUnderFire>;
-class WatchedCleanUp : public CleanUpUnderFire {};
-
-TEST_P(InstallUnderFire, KilledLeavesWholeFilesAndIsMadeGoodByTheNextRun) {
-  kill_at_each_call(HEADLESS_ACTION, "install");
+std::string name_of(const testing::TestParamInfo<ActionUnderFire::ParamType>& share) {
+  return name_in_tests(std::get<0>(share.param)) + std::to_string(std::get<1>(share.param));
 }
 
-TEST_P(AircraftInstallUnderFire, KilledLeavesWholeFilesAndIsMadeGoodByTheNextRun) {
-  kill_at_each_call(HEADLESS_ACTION, "install-aircraft");
+TEST_P(ActionUnderFire, KilledLeavesWholeFilesAndIsMadeGoodByTheNextRun) {
+  kill_at_each_call(HEADLESS_ACTION);
 }
 
-TEST_P(CleanUpUnderFire, KilledLosesNoCareerSaveAndIsCompletedByTheNextRun) {
-  kill_at_each_call(HEADLESS_ACTION, "clean-up");
+// Calls that fail one by one, as on a disk that goes bad.
+TEST_P(ActionUnderFire, WithAFailingCallLeavesWholeFilesAndIsMadeGoodByTheNextRun) {
+  fail_each_call(HEADLESS_ACTION);
 }
+
+INSTANTIATE_TEST_SUITE_P(Sweep, ActionUnderFire,
+                         testing::Combine(testing::ValuesIn(actions()), testing::Range(0, kShares)), name_of);
+
+class WatchedCleanUp : public ActionUnderFire {};
 
 // Whether a save was copied, respelled or just the same at home: it is on the disk before it is deleted.
 TEST_P(WatchedCleanUp, FlushesEverySaveAndRecordWithItsFolder) {
   constexpr int kSaves = 4;
   constexpr int kRecords = 2;
-  EXPECT_EQ(calls("clean-up").at("fsync"), 2 * (kSaves + kRecords));
+  EXPECT_EQ(calls().at("fsync"), 2 * (kSaves + kRecords));
 }
 
-// Calls that fail one by one, as on a disk that goes bad.
 /// Each save and record is flushed, and then its folder.
 TEST_P(WatchedCleanUp, GoesOnWhereAFolderCannotBeFlushedButNotWhereAFileCannot) {
   for (const char* result : {"error=EINVAL", "error=EOPNOTSUPP"}) {
-    for (const int folder_flush : {2, 4, 12})
-      EXPECT_EQ(exit_code("clean-up", folder_flush, result), 0) << result;
+    for (const int folder_flush : {2, 4, 12}) EXPECT_EQ(exit_code(folder_flush, result), 0) << result;
   }
   for (const char* result : {"error=EIO", "error=ENOSPC"}) {
-    for (const int flush : {1, 2, 3, 11}) EXPECT_EQ(exit_code("clean-up", flush, result), 1) << result;
+    for (const int flush : {1, 2, 3, 11}) EXPECT_EQ(exit_code(flush, result), 1) << result;
   }
 }
 
-TEST_P(InstallUnderFire, WithAFailingCallLeavesWholeFilesAndIsMadeGoodByTheNextRun) {
-  fail_each_call(HEADLESS_ACTION, "install");
-}
-
-TEST_P(AircraftInstallUnderFire, WithAFailingCallLeavesWholeFilesAndIsMadeGoodByTheNextRun) {
-  fail_each_call(HEADLESS_ACTION, "install-aircraft");
-}
-
-TEST_P(CleanUpUnderFire, WithAFailingCallLosesNoCareerSaveAndIsCompletedByTheNextRun) {
-  fail_each_call(HEADLESS_ACTION, "clean-up");
-}
+INSTANTIATE_TEST_SUITE_P(Whole, WatchedCleanUp,
+                         testing::Combine(testing::Values(*action_of_name("clean-up")), testing::Values(0)),
+                         name_of);
 
 #ifdef WINDOW_ACTION
 
-TEST_P(InstallUnderFire, KilledInTheRealWindowLeavesWholeFilesAndIsMadeGoodByTheNextRun) {
-  kill_at_each_call(WINDOW_ACTION, "install");
+/// The calls are those that are made without the window, which takes ten times as long for each.
+class ActionInTheRealWindow : public ActionUnderFire {
+  int stride() const override { return action() == "install" || action() == "install-aircraft" ? 8 : 3; }
+};
+
+TEST_P(ActionInTheRealWindow, KilledLeavesWholeFilesAndIsMadeGoodByTheNextRun) {
+  kill_at_each_call(WINDOW_ACTION);
 }
 
-TEST_P(AircraftInstallUnderFire, KilledInTheRealWindowLeavesWholeFilesAndIsMadeGoodByTheNextRun) {
-  kill_at_each_call(WINDOW_ACTION, "install-aircraft");
+/// What is clicked: all but the start, of whose calls most are Qt's.
+std::vector<ActionOfProgram> clicked_actions() {
+  return {actions().begin() + 1, actions().end()};
 }
 
-TEST_P(CleanUpUnderFire, KilledInTheRealWindowLosesNoCareerSaveAndIsCompletedByTheNextRun) {
-  kill_at_each_call(WINDOW_ACTION, "clean-up");
-}
+INSTANTIATE_TEST_SUITE_P(Sweep, ActionInTheRealWindow,
+                         testing::Combine(testing::ValuesIn(clicked_actions()), testing::Range(0, kShares)),
+                         name_of);
 
 #endif
-
-INSTANTIATE_TEST_SUITE_P(Shares, InstallUnderFire, testing::Range(0, kShares));
-INSTANTIATE_TEST_SUITE_P(Shares, AircraftInstallUnderFire, testing::Range(0, kShares));
-INSTANTIATE_TEST_SUITE_P(Shares, CleanUpUnderFire, testing::Range(0, kShares));
-INSTANTIATE_TEST_SUITE_P(Whole, WatchedCleanUp, testing::Values(0));
 
 }  // namespace
 }  // namespace vorlund::test

@@ -11,7 +11,7 @@
 #include <fstream>
 #include <stdexcept>
 
-#include "kill/marks.h"
+#include "actions/marks.h"
 
 namespace vorlund::test {
 

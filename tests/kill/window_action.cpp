@@ -1,13 +1,13 @@
-// Acts in the current folder by clicks on the real window: "install", of the recorded game set,
-// "install-aircraft", of the recorded aircraft set, "clean-up", "look", which looks into the game folder, or
-// "everything": every action of the program that touches files.
+// Does one action in the current folder by clicks on the real window; its argument is the action's name,
+// "look", which looks into the game folder, or "everything" for every action of the program that touches
+// files.
 #include <cstdio>
 #include <exception>
-#include <set>
 #include <string_view>
 
+#include "actions/actions.h"
+#include "actions/marks.h"
 #include "hand.h"
-#include "kill/marks.h"
 #include "window/application.h"
 #include "window/main_window.h"
 
@@ -45,13 +45,20 @@ void look(vorlund::Hand& hand) {
   hand.click("ExitButton");
 }
 
-void click(vorlund::MainWindow& window, std::string_view action) {
+/// Clicks a control, or the entry of a list that "List[0]" names.
+void click(vorlund::Hand& hand, const QString& name) {
+  if (!name.endsWith("[0]")) return hand.click(name);
+  hand.click_row(name.chopped(3), 0);
+}
+
+void act(vorlund::MainWindow& window, std::string_view name) {
   vorlund::Hand hand(window);
-  if (action == "everything") return do_everything(hand);
-  if (action == "look") return look(hand);
-  if (action != "clean-up") hand.click("WhatsLoaded");
+  if (name == "everything") return do_everything(hand);
+  if (name == "look") return look(hand);
+  const vorlund::test::ActionOfProgram* action = vorlund::test::action_of_name(name);
+  for (const char* control : action->before) click(hand, control);
   vorlund::test::mark(vorlund::test::kActionBegins);
-  hand.click(action == "install" ? "GameLoad" : action == "install-aircraft" ? "Label8" : "Label5");
+  click(hand, action->click);
   vorlund::test::mark(vorlund::test::kActionHasEnded);
   hand.click("ExitButton");
 }
@@ -59,13 +66,10 @@ void click(vorlund::MainWindow& window, std::string_view action) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  const std::string_view action = argc == 2 ? argv[1] : "";
-  static const std::set<std::string_view> kActions = {"install", "install-aircraft", "clean-up", "everything",
-                                                      "look"};
-  if (!kActions.contains(action)) return 2;
+  const std::string_view name = argc == 2 ? argv[1] : "";
+  if (name != "everything" && name != "look" && vorlund::test::action_of_name(name) == nullptr) return 2;
   try {
-    return vorlund::run_application(argc, argv,
-                                    [action](vorlund::MainWindow& window) { click(window, action); });
+    return vorlund::run_application(argc, argv, [name](vorlund::MainWindow& window) { act(window, name); });
   } catch (const std::exception& error) {
     std::fprintf(stderr, "window_action: %s\n", error.what());
     return 1;

@@ -1,7 +1,5 @@
 // Work that crosses panes: composing a game set, cleaning up, saving and loading set-ups.
-#include "base/action_error.h"
 #include "panes/form_fixture.h"
-#include "support/faulty_file_system.h"
 
 namespace vorlund {
 namespace {
@@ -242,59 +240,6 @@ TEST_F(Work, TheHeaderRowIsNeverASelectedRow) {
   form->Label29_Click();
   EXPECT_EQ(form->game.G2.row_count(), 4);
   EXPECT_EQ(form->game.G2.cell(0, 0), "Folder group");
-}
-
-TEST_F(Work, ACareerSaveSurvivesEveryFaultOfTheCleanUpAndTheSecondTryCompletesIt) {
-  int faults = 0;
-  for (const auto span : {test::FaultSpan::kOnce, test::FaultSpan::kPersistent}) {
-    for (const auto kind : {test::FaultKind::kError, test::FaultKind::kNoRight, test::FaultKind::kShortWrite,
-                            test::FaultKind::kDiskFull}) {
-      int number = 1;
-      for (bool struck = true; struck; ++number) {
-        const test::TemporaryFolder game;
-        game.write("~Vorlund/CurrentGameSet.txt", "Folder group\tFolder name\r\nCareers\tCamp1\r\n");
-        game.write("~Vorlund/GameStore/Careers/Camp1/c1.sve", "older");
-        game.make_folder("~Vorlund/SkinStore");
-        game.write("Savedata/c1.sve", "career one");
-        game.write("Savedata/C2.sve", "career two");
-        game.write("loose.dat", "loose");
-        game.write("eaw.exe", "MZ");
-        test::StartedInFolder started(*platform, game.path());
-        test::FaultyFileSystem faulty(started);
-        Form1 under_fault(faulty, window, {1, 0, 60});
-        under_fault.Form_Load();
-        faulty.arm({number, kind, span});
-        bool ended_with_error = false;
-        try {
-          under_fault.CleanUp();
-        } catch (const ActionError&) {
-          ended_with_error = true;
-        }
-        struck = faulty.struck();
-        SCOPED_TRACE("operation " + std::to_string(number) + ": " + faulty.struck_operation());
-        EXPECT_TRUE(ended_with_error || !faulty.failed());
-        for (const auto& [name, bytes] :
-             {std::pair("c1.sve", "career one"), std::pair("C2.sve", "career two")}) {
-          const std::string in_game = std::string("Savedata/") + name;
-          const std::string at_home = std::string("~Vorlund/GameStore/Careers/Camp1/") + name;
-          const bool safe = (game.has(in_game) && game.read(in_game) == bytes) ||
-                            (game.has(at_home) && game.read(at_home) == bytes);
-          EXPECT_TRUE(safe) << name;
-        }
-        EXPECT_TRUE(game.has("eaw.exe"));
-        if (!ended_with_error) continue;
-        Form1 again(started, window, {1, 0, 60});
-        again.Form_Load();
-        again.CleanUp();
-        EXPECT_TRUE(game.names("Savedata").empty() ||
-                    game.read("~Vorlund/CurrentGameSet.txt").find("Camp1") == std::string::npos);
-        EXPECT_FALSE(game.has("loose.dat"));
-      }
-      EXPECT_GT(number, kind == test::FaultKind::kError ? 8 : 4);
-      faults += number - 2;
-    }
-  }
-  RecordProperty("faults", faults);
 }
 
 }  // namespace

@@ -8,30 +8,11 @@
 #include <vector>
 
 #include "panes/form1.h"
-#include "support/forwarding_file_system.h"
 #include "support/recording_status.h"
+#include "support/started_in_folder.h"
 #include "support/temporary_folder.h"
 
 namespace vorlund::test {
-
-/// The platform's file system, as if the process had been started in a folder.
-class StartedInFolder : public ForwardingFileSystem {
- public:
-  StartedInFolder(FileSystem& files, std::string folder)
-      : ForwardingFileSystem(files), folder_(std::move(folder)) {}
-
-  std::string current_folder() override { return folder_; }
-  void start_program(std::string_view path, std::string_view folder) override {
-    started.emplace_back(path);
-    started_in.emplace_back(folder);
-  }
-
-  std::vector<std::string> started;
-  std::vector<std::string> started_in;
-
- private:
-  std::string folder_;
-};
 
 /// A left click.
 inline MouseEvent left(int shift = 0) {

@@ -8,9 +8,9 @@
 #include <iostream>
 
 #include "base/text.h"
-#include "kill/aircraft_under_fire.h"
-#include "kill/careers_under_fire.h"
-#include "kill/game_under_fire.h"
+#include "actions/aircraft_under_fire.h"
+#include "actions/careers_under_fire.h"
+#include "actions/game_under_fire.h"
 #include "kill/traced_program.h"
 #include "power/image_disk.h"
 

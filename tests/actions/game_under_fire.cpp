@@ -1,5 +1,5 @@
 // Lays out the game folder whose installation is cut off.
-#include "kill/game_under_fire.h"
+#include "actions/game_under_fire.h"
 #include "support/left_over.h"
 
 #include <cstddef>

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "kill/folder_under_fire.h"
+#include "actions/folder_under_fire.h"
 
 namespace vorlund::test {
 

@@ -1,5 +1,5 @@
 // Lays out the game folder whose aircraft installation is cut off.
-#include "kill/aircraft_under_fire.h"
+#include "actions/aircraft_under_fire.h"
 
 #include <array>
 #include <cstddef>

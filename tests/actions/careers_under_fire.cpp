@@ -1,5 +1,5 @@
 // Lays out the game folder whose clean-up is cut off, and looks after its career saves.
-#include "kill/careers_under_fire.h"
+#include "actions/careers_under_fire.h"
 
 namespace vorlund::test {
 

@@ -19,18 +19,23 @@ std::string made_bytes(std::uint32_t seed, std::size_t size);
 /// The content with these bytes at an offset, made longer where they reach beyond its end.
 std::string with(std::string content, std::size_t offset, const std::string& bytes);
 
+/// Writes the files into the folder. Everybody may write to them, a right that new ones have to be given.
+void lay_out(const Tree& files, const TemporaryFolder& folder);
+
 /// A game folder before, during and after an action.
 class FolderUnderFire {
  public:
   virtual ~FolderUnderFire() = default;
 
-  /// Lays the game folder out as it is before the action. Everybody may write to the files, which new ones
-  /// have to be given.
-  void lay_out(const TemporaryFolder& folder) const;
+  /// Lays the game folder out as it is before the action.
+  void lay_out(const TemporaryFolder& folder) const { test::lay_out(before_, folder); }
 
   /// What the folder holds before the action, and after it.
   const Tree& before() const { return before_; }
   const Tree& finished() const { return finished_; }
+
+  /// What a folder holds that differs from what it holds after the action, by name; "" when nothing does.
+  std::string difference(const Tree& found) const;
 
   /// True where the file may hold this, whatever its spelling: before, after, or between two steps. Of a name
   /// that the action has nothing to do with nothing is known: false.

@@ -1,7 +1,7 @@
 // A game folder with a recorded set that touches everything an installation can touch.
 #pragma once
 
-#include "kill/folder_under_fire.h"
+#include "actions/folder_under_fire.h"
 
 namespace vorlund::test {
 

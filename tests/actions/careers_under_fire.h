@@ -1,7 +1,7 @@
 // A game folder with career saves to bring home and files of every kind that the clean-up meets.
 #pragma once
 
-#include "kill/folder_under_fire.h"
+#include "actions/folder_under_fire.h"
 
 namespace vorlund::test {
 

@@ -1,5 +1,5 @@
 // Tells whole files from halves, and what may be there from what may not.
-#include "kill/folder_under_fire.h"
+#include "actions/folder_under_fire.h"
 
 #include <filesystem>
 #include <string_view>
@@ -38,6 +38,18 @@ std::string with(std::string content, std::size_t offset, const std::string& byt
   return content.replace(offset, bytes.size(), bytes);
 }
 
+void lay_out(const Tree& files, const TemporaryFolder& folder) {
+  for (const auto& [name, content] : files) {
+    folder.write(name, content);
+#ifndef _WIN32
+    using std::filesystem::perms;
+    std::filesystem::permissions(std::filesystem::path(folder.path()) / name,
+                                 perms::group_write | perms::others_write,
+                                 std::filesystem::perm_options::add);
+#endif
+  }
+}
+
 void FolderUnderFire::stay(const std::string& name, const std::string& content) {
   stand(name, content);
   appear(name, content);
@@ -72,14 +84,17 @@ void FolderUnderFire::stand_too(const std::string& name, const std::string& cont
   may_be_twice_.insert(lower(name));
 }
 
-void FolderUnderFire::lay_out(const TemporaryFolder& folder) const {
-  using std::filesystem::perms;
-  for (const auto& [name, content] : before_) {
-    folder.write(name, content);
-    std::filesystem::permissions(std::filesystem::path(folder.path()) / name,
-                                 perms::group_write | perms::others_write,
-                                 std::filesystem::perm_options::add);
+std::string FolderUnderFire::difference(const Tree& found) const {
+  std::string report;
+  for (const auto& [name, content] : finished_) {
+    const auto other = found.find(name);
+    if (other == found.end()) report += name + " is missing; ";
+    if (other != found.end() && other->second != content) report += name + " differs; ";
   }
+  for (const auto& [name, content] : found) {
+    if (!finished_.contains(name)) report += name + " is left over; ";
+  }
+  return report;
 }
 
 bool FolderUnderFire::may_hold(const std::string& name, const std::string& content) const {
