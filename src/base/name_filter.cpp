@@ -2,6 +2,7 @@
 #include "base/name_filter.h"
 
 #include <algorithm>
+#include <array>
 
 #include "base/utf8.h"
 
@@ -15,33 +16,34 @@ struct PlainLetters {
   std::string_view letters;
 };
 
-constexpr PlainLetters kLatin[] = {{0xC0, "AAAAAA.CEEEEIIIIDNOOOOO.OUUUUY.."},
-                                   {0x100,
-                                    "AAAAAACCCCCCCCDDDDEEEEEEEEEEGGGGGGGGHHHHIIIIIIIIII..JJKKKLLLLLLL"
-                                    "LLLNNNNNNNNNOOOOOO..RRRRRRSSSSSSSSTTTTTTUUUUUUUUUUUUWWYYYZZZZZZS"},
-                                   {0x1A0, "OO.............UU"},
-                                   {0x1CD, "AAIIOOUUUUUUUUUU.AAAA....GGKKOOOO..J...GG..NNAA...."},
-                                   {0x200, "AAAAEEEEIIIIOOOORRRRUUUUSSTT..HH......AAEEOOOOOOOOYY"},
-                                   {0x1E00,
-                                    "AABBBBBBCCDDDDDDDDDDEEEEEEEEEEFFGGHHHHHHHHHHIIIIKKKKKKLLLLLLLLMM"
-                                    "MMMMNNNNNNNNOOOOOOOOPPPPRRRRRRRRSSSSSSSSSSTTTTTTTTUUUUUUUUUUVVVV"
-                                    "WWWWWWWWWWXXXXYYZZZZZZHTWY......AAAAAAAAAAAAAAAAAAAAAAAAEEEEEEEE"
-                                    "EEEEEEEEIIIIOOOOOOOOOOOOOOOOOOOOOOOOUUUUUUUUUUUUUUYYYYYYYY"}};
+constexpr auto kLatin =
+    std::to_array<PlainLetters>({{0xC0, "AAAAAA.CEEEEIIIIDNOOOOO.OUUUUY.."},
+                                 {0x100,
+                                  "AAAAAACCCCCCCCDDDDEEEEEEEEEEGGGGGGGGHHHHIIIIIIIIII..JJKKKLLLLLLL"
+                                  "LLLNNNNNNNNNOOOOOO..RRRRRRSSSSSSSSTTTTTTUUUUUUUUUUUUWWYYYZZZZZZS"},
+                                 {0x1A0, "OO.............UU"},
+                                 {0x1CD, "AAIIOOUUUUUUUUUU.AAAA....GGKKOOOO..J...GG..NNAA...."},
+                                 {0x200, "AAAAEEEEIIIIOOOORRRRUUUUSSTT..HH......AAEEOOOOOOOOYY"},
+                                 {0x1E00,
+                                  "AABBBBBBCCDDDDDDDDDDEEEEEEEEEEFFGGHHHHHHHHHHIIIIKKKKKKLLLLLLLLMM"
+                                  "MMMMNNNNNNNNOOOOOOOOPPPPRRRRRRRRSSSSSSSSSSTTTTTTTTUUUUUUUUUUVVVV"
+                                  "WWWWWWWWWWXXXXYYZZZZZZHTWY......AAAAAAAAAAAAAAAAAAAAAAAAEEEEEEEE"
+                                  "EEEEEEEEIIIIOOOOOOOOOOOOOOOOOOOOOOOOUUUUUUUUUUUUUUYYYYYYYY"}});
 
 struct Letters {
   char32_t character;
   std::string_view letters;
 };
 
-constexpr Letters kJoined[] = {{0xDF, "SS"},      {0x1E9E, "SS"},    {0xC6, "AE"},      {0x1E2, "AE"},
-                               {0x1FC, "AE"},     {0x152, "OE"},     {0x132, "IJ"},     {0xDE, "TH"},
-                               {0x1E3, "AE"},     {0x1FD, "AE"},     {0xFB00, "FF"},    {0xFB01, "FI"},
-                               {0xFB02, "FL"},    {0xFB03, "FFI"},   {0xFB04, "FFL"},   {0xFB05, "ST"},
-                               {0xFB06, "ST"},    {0x386, "\u0391"}, {0x388, "\u0395"}, {0x389, "\u0397"},
-                               {0x38A, "\u0399"}, {0x38C, "\u039F"}, {0x38E, "\u03A5"}, {0x38F, "\u03A9"},
-                               {0x390, "\u0399"}, {0x3AA, "\u0399"}, {0x3AB, "\u03A5"}, {0x3B0, "\u03A5"},
-                               {0x400, "\u0415"}, {0x401, "\u0415"}, {0x403, "\u0413"}, {0x407, "\u0406"},
-                               {0x40C, "\u041A"}, {0x40D, "\u0418"}, {0x40E, "\u0423"}, {0x419, "\u0418"}};
+constexpr auto kJoined = std::to_array<Letters>(
+    {{0xDF, "SS"},      {0x1E9E, "SS"},    {0xC6, "AE"},      {0x1E2, "AE"},     {0x1FC, "AE"},
+     {0x152, "OE"},     {0x132, "IJ"},     {0xDE, "TH"},      {0x1E3, "AE"},     {0x1FD, "AE"},
+     {0xFB00, "FF"},    {0xFB01, "FI"},    {0xFB02, "FL"},    {0xFB03, "FFI"},   {0xFB04, "FFL"},
+     {0xFB05, "ST"},    {0xFB06, "ST"},    {0x386, "\u0391"}, {0x388, "\u0395"}, {0x389, "\u0397"},
+     {0x38A, "\u0399"}, {0x38C, "\u039F"}, {0x38E, "\u03A5"}, {0x38F, "\u03A9"}, {0x390, "\u0399"},
+     {0x3AA, "\u0399"}, {0x3AB, "\u03A5"}, {0x3B0, "\u03A5"}, {0x400, "\u0415"}, {0x401, "\u0415"},
+     {0x403, "\u0413"}, {0x407, "\u0406"}, {0x40C, "\u041A"}, {0x40D, "\u0418"}, {0x40E, "\u0423"},
+     {0x419, "\u0418"}});
 
 constexpr char32_t kFirstMark = 0x300;
 constexpr char32_t kLastMark = 0x36F;

@@ -14,7 +14,7 @@ namespace vorlund {
 
 namespace {
 
-constexpr std::size_t kBlock = 64 * 1024;
+constexpr std::size_t kBlock = 64 << 10;
 
 std::string missing_text() {
   return std::generic_category().message(ENOENT);

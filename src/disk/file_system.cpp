@@ -3,6 +3,7 @@
 #include "disk/file_system.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <new>
 #include <stdexcept>
@@ -19,9 +20,9 @@ constexpr std::string_view kStagingBegin = "~vorlund-";
 constexpr std::string_view kStagingEnd = ".bak";
 
 std::string hexadecimal(std::uint32_t number) {
-  char digits[8];
-  const auto end = std::to_chars(std::begin(digits), std::end(digits), number, 16).ptr;
-  return {std::begin(digits), end};
+  std::array<char, 8> digits{};
+  char* const end = std::to_chars(digits.data(), digits.data() + digits.size(), number, 16).ptr;
+  return {digits.data(), end};
 }
 
 /// Takes a number as `hexadecimal` spells it off the text; false where none stands at its beginning.
@@ -61,7 +62,7 @@ std::string FileSystem::read_file(std::string_view path, std::uint64_t limit) tr
     const bool ended = got < bytes.size() - done;
     bytes.resize(done + got);
     if (ended) break;
-    step = 64 * 1024;
+    step = 64 << 10;
   }
   return bytes;
 } catch (const std::bad_alloc&) {

@@ -28,7 +28,7 @@ constexpr std::array<std::string_view, 4> kSpared = {"DSG.ICO", "EXTRA.SPT", "CH
 /// The folder that the careers row names, wherever links of the player's lead it, but for one: in "Savedata"
 /// a save moved home would be a save deleted.
 std::string careers_home(const GameFolder& game, const std::string& name) {
-  const std::string home = game.path(kCareersStore) + "\\" + name;
+  std::string home = game.path(kCareersStore) + "\\" + name;
   const auto refused = [&home](const char* why) {
     return ActionError("bring the career saves home to", home, std::string(why) + "; no save was moved");
   };

@@ -13,7 +13,7 @@ namespace vorlund {
 namespace {
 
 constexpr std::size_t kRecordHeader = 6;
-constexpr std::size_t kBlock = 64 * 1024;
+constexpr std::size_t kBlock = 64 << 10;
 
 std::size_t three_byte_number(const char* bytes) {
   const auto byte = [bytes](std::size_t index) {

@@ -37,9 +37,10 @@ std::vector<std::vector<std::string>> filled_rows(const GameTable& table) {
 
 /// Adds the group of each row of `table` that `other` does not hold.
 void compare_games(const GameTable& table, const GameTable& other, Names& missing) {
-  const auto known = filled_rows(other);
+  std::vector<std::vector<std::string>> known = filled_rows(other);
+  std::sort(known.begin(), known.end());
   for (const auto& row : filled_rows(table)) {
-    if (std::find(known.begin(), known.end(), row) == known.end()) add_once(missing, row[GameTable::kGroup]);
+    if (!std::binary_search(known.begin(), known.end(), row)) add_once(missing, row[GameTable::kGroup]);
   }
 }
 

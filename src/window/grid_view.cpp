@@ -131,7 +131,7 @@ void GridView::apply() {
 
 void GridView::fit_columns() {
   for (int column = 0; column < grid_.columns; ++column) {
-    const std::size_t index = static_cast<std::size_t>(column);
+    const auto index = static_cast<std::size_t>(column);
     const int given = index < widths_.size() ? theme::pixels(widths_[index]) : 0;
     setColumnWidth(column, std::max(given, header_width(column)));
   }

@@ -19,8 +19,6 @@ bool PosixFolderReader::take(const char* name, unsigned char type) {
 
 PosixFolderReader::PosixFolderReader(int descriptor) : descriptor_(descriptor) {}
 
-PosixFolderReader::~PosixFolderReader() = default;
-
 const PosixFolderReader::Entry* PosixFolderReader::next() {
   for (;;) {
     while (at_ < filled_) {

@@ -21,7 +21,9 @@ class PosixFolderReader {
 
   /// The folder must be open for reading; its descriptor stays the caller's.
   explicit PosixFolderReader(int descriptor);
+#ifndef __linux__
   ~PosixFolderReader();
+#endif
   PosixFolderReader(const PosixFolderReader&) = delete;
   PosixFolderReader& operator=(const PosixFolderReader&) = delete;
 
