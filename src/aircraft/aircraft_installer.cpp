@@ -59,7 +59,7 @@ class Installation {
   }
 
  private:
-  const std::string& cell(int row, int column) const { return table_.cell(row, column); }
+  [[nodiscard]] const std::string& cell(int row, int column) const { return table_.cell(row, column); }
 
   void look_ahead() {
     list_ahead(flight_model_group_folder(game_, table_), "*.*");
@@ -143,7 +143,7 @@ class Installation {
   }
 
   /// Where a row's skin lies; "" where it has none.
-  std::string skin_folder(int row) const {
+  [[nodiscard]] std::string skin_folder(int row) const {
     const std::string& region = cell(row, PlaneTable::kRegion);
     const std::string& folder = cell(row, PlaneTable::kSkinFolder);
     if (region.empty() || folder.empty() || !stays_below(region) || !stays_below(folder)) return {};

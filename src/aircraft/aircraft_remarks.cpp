@@ -33,13 +33,13 @@ class Reviewer {
   }
 
  private:
-  const std::string& cell(int row, int column) const { return table_.cell(row, column); }
+  [[nodiscard]] const std::string& cell(int row, int column) const { return table_.cell(row, column); }
 
   void remark(int row, const std::string& text) {
     remarks_.push_back("slot " + cell(row, PlaneTable::kSlot) + ": " + text);
   }
 
-  bool is_there(const std::string& folder) const {
+  [[nodiscard]] bool is_there(const std::string& folder) const {
     return !folder.empty() && game_.files.FolderExists(folder);
   }
 

@@ -53,7 +53,7 @@ class RecordWriter {
   }
 
  private:
-  const std::string& cell(int column) const { return table_.cell(row_, column); }
+  [[nodiscard]] const std::string& cell(int column) const { return table_.cell(row_, column); }
 
   double patched(int line, double value) {
     switch (line) {
@@ -96,7 +96,7 @@ class RecordWriter {
     return code_ + 4 * std::floor(value / 4);
   }
 
-  double slot_character(int index) const {
+  [[nodiscard]] double slot_character(int index) const {
     if (static_cast<std::size_t>(index) >= slot_.size()) {
       throw ActionError("take character " + std::to_string(index + 1) + " of the slot code in",
                         table_.describe_cell(row_, PlaneTable::kSlot),
@@ -111,7 +111,7 @@ class RecordWriter {
     planes_.put(base_ + kFuelHighLine, fuel_byte(std::floor(quantity / 256), quantity));
   }
 
-  std::uint8_t fuel_byte(double value, double quantity) const {
+  [[nodiscard]] std::uint8_t fuel_byte(double value, double quantity) const {
     if (value < 0 || value > 255) {
       throw ActionError("scale the fuel of lines 38 and 39 of", values_.path(),
                         "overflow: " + number_text(quantity) + " does not fit in 16 bits; \"" +

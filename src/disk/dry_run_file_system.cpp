@@ -25,7 +25,7 @@ class BytesReader final : public FileReader {
  public:
   explicit BytesReader(std::shared_ptr<const std::string> bytes) : bytes_(std::move(bytes)) {}
 
-  std::uint64_t size() const override { return bytes_->size(); }
+  [[nodiscard]] std::uint64_t size() const override { return bytes_->size(); }
 
   std::size_t read(char* bytes, std::size_t size) override {
     const std::size_t got = bytes_->copy(bytes, size, at_);

@@ -41,7 +41,7 @@ class TileDelegate : public QStyledItemDelegate {
  public:
   explicit TileDelegate(ContactSheet& sheet) : QStyledItemDelegate(&sheet), sheet_(sheet) {}
 
-  QSize sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const override {
+  [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const override {
     return sheet_.tile_size();
   }
 

@@ -39,7 +39,9 @@ class PlateDelegate : public QStyledItemDelegate {
         room, Qt::AlignVCenter | Qt::AlignLeft,
         painter->fontMetrics().elidedText(index.data().toString(), Qt::ElideRight, room.width()));
   }
-  QSize sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const override { return {kColumn, kStep}; }
+  [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const override {
+    return {kColumn, kStep};
+  }
 
  private:
   const QAbstractItemView& view_;

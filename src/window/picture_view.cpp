@@ -32,9 +32,9 @@ class Decoder {
   }
 
   QImageReader& reader() { return reader_; }
-  bool scales() const { return reader_.supportsOption(QImageIOHandler::ScaledSize); }
+  [[nodiscard]] bool scales() const { return reader_.supportsOption(QImageIOHandler::ScaledSize); }
 
-  bool is_too_large() const {
+  [[nodiscard]] bool is_too_large() const {
     const QSizeF size = reader_.size();
     return size.isValid() && size.width() * size.height() > (scales() ? kScalersMostPixels : kMostPixels);
   }

@@ -54,7 +54,11 @@ const std::array<ActionOfProgram, kActionCount>& actions() {
   static const std::array<ActionOfProgram, kActionCount> kActions = {{
       {"start", {}, "", "~Vorlund/SkinStore/SkinList.txt", make<StartUnderFire>},
       {"install", {"WhatsLoaded"}, "GameLoad", "~Vorlund/CurrentGameSet.txt", make<GameUnderFire>},
-      {"install-aircraft", {"WhatsLoaded"}, "Label8", "~Vorlund/CurrentPlaneSet.txt", make<AircraftUnderFire>},
+      {"install-aircraft",
+       {"WhatsLoaded"},
+       "Label8",
+       "~Vorlund/CurrentPlaneSet.txt",
+       make<AircraftUnderFire>},
       {"clean-up", {}, "Label5", "~Vorlund/CurrentPlaneSet.txt", make<CareersUnderFire>},
       {"delete-missions", {}, "DelMSN", "", make<MissionsUnderFire>},
       {"save", {"WhatsLoaded", "Label11", "File5[0]"}, "Label4", "", make<SaveUnderFire>},

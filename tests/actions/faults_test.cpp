@@ -1,5 +1,5 @@
-// Each file operation of each action is failed in turn: the action ends, what it leaves is whole, and doing it
-// again makes it good.
+// Each file operation of each action is failed in turn: the action ends, what it leaves is whole, and doing
+// it again makes it good.
 #include <gtest/gtest.h>
 
 #include <functional>
@@ -21,7 +21,8 @@ class ActionFaults : public testing::TestWithParam<std::tuple<ActionOfProgram, F
   const ActionOfProgram& action() const { return std::get<0>(GetParam()); }
 
   /// Does the action; true when it ended with an error.
-  bool ends_with_error(FileSystem& files, const std::function<void()>& begins = [] {}) const {
+  bool ends_with_error(
+      FileSystem& files, const std::function<void()>& begins = [] {}) const {
     Status nobody;
     Form1 form(files, nobody, {1, 0, 60});
     prepare(action(), form);
@@ -86,7 +87,8 @@ std::string name_of(const testing::TestParamInfo<ActionFaults::ParamType>& fault
 }
 
 INSTANTIATE_TEST_SUITE_P(Sweep, ActionFaults,
-                         testing::Combine(testing::ValuesIn(actions()), testing::ValuesIn(kEveryFault)), name_of);
+                         testing::Combine(testing::ValuesIn(actions()), testing::ValuesIn(kEveryFault)),
+                         name_of);
 
 }  // namespace
 }  // namespace vorlund::test

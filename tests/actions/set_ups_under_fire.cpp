@@ -32,7 +32,8 @@ StartUnderFire::StartUnderFire() {
   go("~Vorlund/" + left_over_name(), made_bytes(7, 400));  // what an earlier crash has left
   go(kSkins + left_over_name(), made_bytes(8, 400));
   stand(kSkins + "SkinList.txt"s, "USAAF\\Silver\\P38H\r\nUSAAF\\Gone\\P38J\r\n");
-  appear(kSkins + "SkinList.txt"s, "USAAF\\Silver\\P38H\r\nW\xFCste\\No plane\\\r\nW\xFCste\\Sand und Staub\\P47C\r\n");
+  appear(kSkins + "SkinList.txt"s,
+         "USAAF\\Silver\\P38H\r\nW\xFCste\\No plane\\\r\nW\xFCste\\Sand und Staub\\P47C\r\n");
 }
 
 MissionsUnderFire::MissionsUnderFire() {

@@ -1,6 +1,6 @@
-// In the midst of each action another program, really another one, is to do each action in the same folder: it
-// says that the folder is in use and changes nothing. Where system calls can be watched a sweep does so at many
-// of them; here the first program is stopped at a file operation.
+// In the midst of each action another program, really another one, is to do each action in the same folder:
+// it says that the folder is in use and changes nothing. Where system calls can be watched a sweep does so at
+// many of them; here the first program is stopped at a file operation.
 #include <gtest/gtest.h>
 
 #include <cstdlib>

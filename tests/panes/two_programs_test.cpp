@@ -32,7 +32,7 @@ class PoorFileSystem : public test::StartedInFolder {
     return {std::move(locks), wait};
   }
 
-  std::vector<std::string> entries(std::string_view folder) override {
+  std::vector<FolderEntry> entries(std::string_view folder) override {
     told = unseen;
     return StartedInFolder::entries(folder);
   }

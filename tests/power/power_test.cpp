@@ -7,10 +7,10 @@
 #include <array>
 #include <iostream>
 
-#include "base/text.h"
 #include "actions/aircraft_under_fire.h"
 #include "actions/careers_under_fire.h"
 #include "actions/game_under_fire.h"
+#include "base/text.h"
 #include "kill/traced_program.h"
 #include "power/image_disk.h"
 

@@ -247,7 +247,7 @@ class PosixReader final : public FileReader {
  public:
   PosixReader(PosixSource source, std::string_view path) : source_(std::move(source)), path_(path) {}
 
-  std::uint64_t size() const override { return source_.size(); }
+  [[nodiscard]] std::uint64_t size() const override { return source_.size(); }
 
   std::size_t read(char* bytes, std::size_t size) override {
     const ssize_t got = read_up_to(source_.handle.descriptor(), bytes, size);

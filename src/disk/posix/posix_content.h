@@ -22,7 +22,7 @@ struct PosixSource {
   struct stat status {};
   std::string_view path;  ///< as the program spells it, for error reports; it outlives this
 
-  std::uint64_t size() const { return static_cast<std::uint64_t>(status.st_size); }
+  [[nodiscard]] std::uint64_t size() const { return static_cast<std::uint64_t>(status.st_size); }
 };
 
 /// Memory that begins at a page: the kernel copies faster into such.

@@ -18,8 +18,8 @@ class FileHandle {
   FileHandle(FileHandle&& other) noexcept : descriptor_(other.release()) {}
   FileHandle& operator=(FileHandle&& other) noexcept;
 
-  int descriptor() const { return descriptor_; }
-  bool is_open() const { return descriptor_ >= 0; }
+  [[nodiscard]] int descriptor() const { return descriptor_; }
+  [[nodiscard]] bool is_open() const { return descriptor_ >= 0; }
 
   /// Closes the file; false, with errno, where the system only now reports that a write failed.
   bool close();

@@ -30,13 +30,13 @@ class PosixTarget {
 
   /// What is there, opened for reading; -1 when there is nothing or it can't be read. After `look` it is a
   /// regular file.
-  int readable() const { return existing_.descriptor(); }
+  [[nodiscard]] int readable() const { return existing_.descriptor(); }
 
   /// Finds out what it is that is there.
   void look();
 
   /// What is there; meaningful after `look`, where `readable` is.
-  const struct stat& status() const { return status_; }
+  [[nodiscard]] const struct stat& status() const { return status_; }
 
   /// True when the file that is there is spelled as asked, and has no other spelling.
   [[nodiscard]] bool is_as_asked() const { return !looked_ || (current_ == name_ && others_.empty()); }
@@ -61,13 +61,13 @@ class PosixTarget {
   bool finish(Durability durability);
 
  private:
-  bool is_there() const { return !current_.empty(); }
+  [[nodiscard]] bool is_there() const { return !current_.empty(); }
   void look_at(const std::string& spelling);
   void look_for_spellings();
   void refuse_read_only_files(Writing writing) const;
   bool create(const std::shared_ptr<PosixFolder>& folder, mode_t mode);
   void drop();
-  bool names_written() const;
+  [[nodiscard]] bool names_written() const;
   void set_mode(mode_t mode);
   void settle_spelling();
   void flush_folder() const;

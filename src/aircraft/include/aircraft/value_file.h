@@ -34,12 +34,12 @@ class ValueFile {
 
   /// The byte nearest to the value, halves to the even one. A byte outside 0 to 255 is an overflow error
   /// that names the line last read.
-  std::uint8_t to_byte(double value) const;
+  [[nodiscard]] std::uint8_t to_byte(double value) const;
 
-  const std::string& path() const { return path_; }
+  [[nodiscard]] const std::string& path() const { return path_; }
 
   /// Lines read so far.
-  std::uint64_t lines_read() const { return lines_read_; }
+  [[nodiscard]] std::uint64_t lines_read() const { return lines_read_; }
 
  private:
   /// Hands the characters of the next line to `take`. Past the last line is an error.

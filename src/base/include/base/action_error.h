@@ -22,9 +22,9 @@ class ActionError : public std::runtime_error {
   /// `reason` the system's own text or the rule that was broken. `what()` joins the three into one sentence.
   ActionError(std::string_view attempted, std::string_view path, std::string_view reason);
 
-  const std::string& attempted() const { return attempted_; }
-  const std::string& path() const { return path_; }
-  const std::string& reason() const { return reason_; }
+  [[nodiscard]] const std::string& attempted() const { return attempted_; }
+  [[nodiscard]] const std::string& path() const { return path_; }
+  [[nodiscard]] const std::string& reason() const { return reason_; }
 
  private:
   std::string attempted_;

@@ -13,7 +13,7 @@ class LeadingNumber {
   void take(char character);
 
   /// The number so far; 0 where the text does not begin with one.
-  double value() const;
+  [[nodiscard]] double value() const;
 
  private:
   enum class Stage { kBlanks, kSign, kInteger, kFraction, kExponentMark, kExponentSign, kExponent, kEnd };

@@ -20,10 +20,10 @@ class ListedAhead {
   ListedAhead(FileSystem& files, const std::string& folder, std::string_view pattern);
 
   /// The names, in the order of listings. Where the folder could not be listed that is an error now.
-  const std::vector<std::string>& names() const;
+  [[nodiscard]] const std::vector<std::string>& names() const;
 
   /// How many names there are, none where the folder could not be listed.
-  std::size_t count() const { return names_.size(); }
+  [[nodiscard]] std::size_t count() const { return names_.size(); }
 
  private:
   std::vector<std::string> names_;
@@ -50,8 +50,10 @@ class Copier {
   /// Copies a file as FileSystem::copy_file does, flushed where it must be.
   void copy(const std::string& source, const std::string& target);
 
-  std::uint64_t copied() const { return copied_; }        ///< files written
-  std::uint64_t unchanged() const { return unchanged_; }  ///< files that stood there already, byte for byte
+  /// Files written.
+  [[nodiscard]] std::uint64_t copied() const { return copied_; }
+  /// Files that stood there already, byte for byte.
+  [[nodiscard]] std::uint64_t unchanged() const { return unchanged_; }
 
  private:
   FileSystem& files_;

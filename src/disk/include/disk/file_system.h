@@ -55,7 +55,7 @@ class FileReader {
   virtual ~FileReader() = default;
 
   /// Length of the file in bytes when it was opened.
-  virtual std::uint64_t size() const = 0;
+  [[nodiscard]] virtual std::uint64_t size() const = 0;
 
   /// Reads the next `size` bytes, fewer only at the end of the file; returns how many.
   virtual std::size_t read(char* bytes, std::size_t size) = 0;

@@ -23,8 +23,8 @@ class FolderLock {
   FolderLock(const FolderLock&) = delete;
   FolderLock& operator=(const FolderLock&) = delete;
 
-  const std::string& path() const { return path_; }
-  const std::string& identity() const { return identity_; }
+  [[nodiscard]] const std::string& path() const { return path_; }
+  [[nodiscard]] const std::string& identity() const { return identity_; }
 
   virtual Outcome take() = 0;
 
@@ -51,11 +51,11 @@ class FolderLocks {
 
   /// The first folder that somebody else has locked, "" when there is none. Where there is one, no folder is
   /// held.
-  const std::string& in_use() const { return in_use_; }
+  [[nodiscard]] const std::string& in_use() const { return in_use_; }
 
   /// The first folder on a disk that knows no locks, "" when there is none. Such folders are passed over:
   /// nothing keeps other programs from them.
-  const std::string& without_locks() const { return without_locks_; }
+  [[nodiscard]] const std::string& without_locks() const { return without_locks_; }
 
  private:
   bool take_all();

@@ -58,7 +58,7 @@ class FlightModelBrowser {
   };
 
   void describe(int row, const FlightModelLines& lines);
-  std::string selected_flight_model() const;
+  [[nodiscard]] std::string selected_flight_model() const;
 
   Desk& desk_;
   PlanePane& plane_;

@@ -41,7 +41,7 @@ class PossibleSkins {
   void select(int index);
 
   /// The folder that an entry stands for, "" for one that leads out of the skin store.
-  std::string folder_of(int index) const;
+  [[nodiscard]] std::string folder_of(int index) const;
 
   /// Shows the selected entry: its picture and the plane that its files are made for.
   void show_entry();
@@ -51,7 +51,7 @@ class PossibleSkins {
   void choose();
 
   /// What the last choice came to, in plain words.
-  const std::string& last_choice() const { return last_choice_; }
+  [[nodiscard]] const std::string& last_choice() const { return last_choice_; }
 
   /// Hides the pane and brings the plane table back.
   void hide();
@@ -65,7 +65,7 @@ class PossibleSkins {
  private:
   void show_nothing();
   void read_code(const std::vector<FolderEntry>& entries, std::string_view pattern);
-  std::string describe_choice(int row, const std::string& asked_slot) const;
+  [[nodiscard]] std::string describe_choice(int row, const std::string& asked_slot) const;
 
   Desk& desk_;
   PlanePane& plane_;

@@ -47,7 +47,7 @@ class SavePane {
 
  private:
   /// Where set-ups of the kind are saved in the game directory of the moment.
-  std::string folder() const;
+  [[nodiscard]] std::string folder() const;
 
   /// Says so where the saved file can't spell a name of the table.
   void say_spelling();

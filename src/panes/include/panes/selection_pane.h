@@ -61,13 +61,13 @@ class SelectionPane {
   void remove_group_labels();
 
   /// True while there are group labels to click.
-  bool shows_groups() const { return Label1.front().visible; }
+  [[nodiscard]] bool shows_groups() const { return Label1.front().visible; }
 
   /// Caption of the group label with the highest index; none while the labels are removed.
-  std::optional<std::string_view> last_group() const;
+  [[nodiscard]] std::optional<std::string_view> last_group() const;
 
   /// True from the click on a selection until a group is opened.
-  bool shows_selection() const { return shows_selection_; }
+  [[nodiscard]] bool shows_selection() const { return shows_selection_; }
 
   /// Opens group `index`, or in `kFlightModelGroup` makes it the current flight-model group.
   void open_group(int index);
@@ -83,10 +83,10 @@ class SelectionPane {
 
   /// True while neither picture nor description of a selection is shown: their place is taken by a sheet with
   /// the pictures of all folders.
-  bool shows_sheet() const { return !Image1.visible && !Text1.visible; }
+  [[nodiscard]] bool shows_sheet() const { return !Image1.visible && !Text1.visible; }
 
   /// The folder that selection label `index` stands for.
-  std::string folder_of(int index) const;
+  [[nodiscard]] std::string folder_of(int index) const;
 
   /// One step back: what was typed to find a folder is emptied, else the shown selection left for the sheet,
   /// else the pane hidden.
@@ -110,7 +110,7 @@ class SelectionPane {
   void show_table();
 
  private:
-  std::string group_folder() const;
+  [[nodiscard]] std::string group_folder() const;
   void show_slot(const std::string& folder);
   void say_missing_models();
   void choose_skin();

@@ -47,9 +47,9 @@ class ActionLabel : public QAbstractButton {
   /// Takes over caption, colour and visibility; the place is the owner's business.
   void apply(const Label& label);
 
-  QSize sizeHint() const override;
+  [[nodiscard]] QSize sizeHint() const override;
   [[nodiscard]] QSize minimumSizeHint() const override;
-  int heightForWidth(int width) const override;
+  [[nodiscard]] int heightForWidth(int width) const override;
 
  protected:
   bool event(QEvent* event) override;
@@ -65,11 +65,11 @@ class ActionLabel : public QAbstractButton {
 
  private:
   void command(Qt::KeyboardModifiers modifiers);
-  QColor fill() const;
-  QRect text_area() const;
-  QFont shown_font() const;
-  bool marked() const;
-  bool wraps() const;
+  [[nodiscard]] QColor fill() const;
+  [[nodiscard]] QRect text_area() const;
+  [[nodiscard]] QFont shown_font() const;
+  [[nodiscard]] bool marked() const;
+  [[nodiscard]] bool wraps() const;
 
   Look look_;
   Drag drag_;

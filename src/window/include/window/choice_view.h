@@ -38,16 +38,16 @@ class ChoiceView : public Button {
     this->setChecked(choice.checked);
   }
 
-  QSize sizeHint() const override {
+  [[nodiscard]] QSize sizeHint() const override {
     const QFontMetrics metrics = this->fontMetrics();
     return {metrics.horizontalAdvance(this->text()) + metrics.height() * 2, metrics.height() * 3 / 2};
   }
-  QSize minimumSizeHint() const override { return sizeHint(); }
+  [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
 
  protected:
   void paintEvent(QPaintEvent*) override { paint_choice(*this); }
   void nextCheckState() override {}
-  bool hitButton(const QPoint& point) const override { return this->rect().contains(point); }
+  [[nodiscard]] bool hitButton(const QPoint& point) const override { return this->rect().contains(point); }
 };
 
 using OptionButton = ChoiceView<QRadioButton>;

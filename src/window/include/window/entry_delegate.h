@@ -20,7 +20,7 @@ class EntryDelegate : public QStyledItemDelegate {
   EntryDelegate(QAbstractItemView& view, CurrentCell current_cell);
 
   void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
-  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+  [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
 
  private:
   QAbstractItemView& view_;

@@ -23,18 +23,20 @@ class EntryModel : public QAbstractListModel {
   bool refresh();
 
   /// What was typed to filter the entries.
-  const Finder& finder() const { return finder_; }
+  [[nodiscard]] const Finder& finder() const { return finder_; }
 
   /// Index of the entry in a row, and the model index of an entry, invalid where it is not shown.
-  int entry(const QModelIndex& row) const { return shown_.at(static_cast<std::size_t>(row.row())); }
-  QModelIndex row_of(int entry) const;
+  [[nodiscard]] int entry(const QModelIndex& row) const {
+    return shown_.at(static_cast<std::size_t>(row.row()));
+  }
+  [[nodiscard]] QModelIndex row_of(int entry) const;
 
-  int rowCount(const QModelIndex& parent = {}) const override;
-  QVariant data(const QModelIndex& index, int role) const override;
+  [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+  [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
 
  private:
-  int count() const;
-  const std::string& text(int entry) const;
+  [[nodiscard]] int count() const;
+  [[nodiscard]] const std::string& text(int entry) const;
 
   const std::vector<std::string>* texts_ = nullptr;
   const std::vector<Label>* labels_ = nullptr;

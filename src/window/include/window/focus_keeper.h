@@ -25,7 +25,7 @@ class FocusKeeper {
   bool step(bool forward);
 
  private:
-  QWidget* first_in(const QWidget& pane) const;
+  [[nodiscard]] QWidget* first_in(const QWidget& pane) const;
 
   QWidget& window_;
   std::vector<QWidget*> shown_;

@@ -22,13 +22,13 @@ class GridModel : public QAbstractTableModel {
   void refresh();
 
   /// Grid row of a table row, and table row of a grid row (-1 where it is hidden).
-  int grid_row(int table_row) const;
-  int table_row(int grid_row) const;
+  [[nodiscard]] int grid_row(int table_row) const;
+  [[nodiscard]] int table_row(int grid_row) const;
 
-  int rowCount(const QModelIndex& parent = {}) const override;
-  int columnCount(const QModelIndex& parent = {}) const override;
-  QVariant data(const QModelIndex& index, int role) const override;
-  QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+  [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+  [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
+  [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+  [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
   /// Says of a cell whether a click cycles its value; such cells look as if they did.
   std::function<bool(int row, int column)> cycles;
@@ -41,7 +41,7 @@ class GridModel : public QAbstractTableModel {
   std::function<std::string(int row)> mark_in_words;
 
  private:
-  QString tool_tip(int row, int column) const;
+  [[nodiscard]] QString tool_tip(int row, int column) const;
 
   const CellTable& grid_;
   std::vector<int> shown_;
@@ -93,9 +93,9 @@ class GridView : public QTableView {
  private:
   enum class Sharing { kOff, kOn };
   void share_room();
-  int header_width(int column) const;
+  [[nodiscard]] int header_width(int column) const;
   [[nodiscard]] int least_width(int column) const;
-  int wanted_width(int column) const;
+  [[nodiscard]] int wanted_width(int column) const;
 
   const CellTable& grid_;
   std::span<const int> widths_;

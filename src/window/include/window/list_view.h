@@ -50,13 +50,13 @@ class ListView : public QListView {
   /// Takes over the entries and the selected one, -1 for none, and scrolls to it when it is another.
   void apply(int selected);
 
-  const EntryModel& entries() const { return model_; }
+  [[nodiscard]] const EntryModel& entries() const { return model_; }
 
   /// Scrolls to an entry and says where it is in the viewport; null where it is not shown.
   QRect reach(int index);
 
-  QSize sizeHint() const override { return {220, 160}; }
-  QSize minimumSizeHint() const override { return {120, 80}; }
+  [[nodiscard]] QSize sizeHint() const override { return {220, 160}; }
+  [[nodiscard]] QSize minimumSizeHint() const override { return {120, 80}; }
 
   void keyboardSearch(const QString&) override {}
 

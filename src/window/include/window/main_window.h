@@ -39,7 +39,7 @@ class MainWindow : public QWidget, private Status {
   void perform(const std::function<void()>& handler);
 
   /// True once an error has ended the program.
-  bool failed() const { return failed_; }
+  [[nodiscard]] bool failed() const { return failed_; }
 
  protected:
   void paintEvent(QPaintEvent* event) override;

@@ -24,13 +24,13 @@ class PaneFrame : public QWidget {
   std::function<void()> on_escape;
 
   /// Layout that the content goes into.
-  QVBoxLayout* content() const { return content_; }
+  [[nodiscard]] QVBoxLayout* content() const { return content_; }
 
   /// The least size at which nothing of the content is cut.
   QSize least_size();
 
   /// What lies below the title.
-  QRect body() const { return rect().adjusted(1, title_height() + 1, -1, -1); }
+  [[nodiscard]] QRect body() const { return rect().adjusted(1, title_height() + 1, -1, -1); }
 
   /// Takes over caption, visibility and place. A pane never hangs out of its parent at the right or the
   /// bottom with its title out of reach.
@@ -44,10 +44,10 @@ class PaneFrame : public QWidget {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
-  QPoint within_reach(const QPoint& corner, int width) const;
-  QPoint dragged_to(const QMouseEvent& event) const;
+  [[nodiscard]] QPoint within_reach(const QPoint& corner, int width) const;
+  [[nodiscard]] QPoint dragged_to(const QMouseEvent& event) const;
 
-  int title_height() const;
+  [[nodiscard]] int title_height() const;
 
   FreeArea free_area_;
   QVBoxLayout* content_;

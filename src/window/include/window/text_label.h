@@ -17,7 +17,7 @@ class TextLabel : public QLabel {
   /// Takes over caption and visibility.
   void apply(const Label& label);
 
-  QSize minimumSizeHint() const override;
+  [[nodiscard]] QSize minimumSizeHint() const override;
 
  protected:
   bool event(QEvent* event) override;
