@@ -113,7 +113,7 @@ TEST_F(GameRecord, HoldsAHundredThousandRows) {
   EXPECT_EQ(folder.read("again.txt"), bytes);
 }
 
-TEST(GameRecord, ForWhichMemoryDoesNotSufficeIsAnErrorThatNamesIt) {
+TEST(LongGameRecord, ForWhichMemoryDoesNotSufficeIsAnErrorThatNamesIt) {
   const test::TemporaryFolder folder;
   std::string bytes;
   for (int row = 0; row < 400000; ++row) bytes += "A\tB\r\n";

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "base/text.h"
 #include "disk/file_system.h"
 #include "windows/windows_file.h"
 #include "windows/windows_listing.h"
@@ -101,8 +102,12 @@ std::wstring resolved_folder(const std::wstring& path) {
   std::wstring resolved(GetFinalPathNameByHandleW(opened.get(), nullptr, 0, FILE_NAME_NORMALIZED), L'\0');
   const DWORD length = GetFinalPathNameByHandleW(opened.get(), resolved.data(),
                                                  static_cast<DWORD>(resolved.size()), FILE_NAME_NORMALIZED);
-  if (length == 0 || length >= resolved.size()) return {};
-  resolved.resize(length);
+  if (length == 0 || length >= resolved.size()) {
+    // Wine knows no such names of more than 260 characters; there a path stands for itself.
+    resolved = to_wide(to_upper(from_wide(path)));
+  } else {
+    resolved.resize(length);
+  }
   if (resolved.back() != L'\\') resolved += L'\\';
   return resolved;
 }
