@@ -63,8 +63,11 @@ TEST_P(ActionFaults, LeaveEveryFileWholeAndAreMadeGoodByTheNextRun) {
     const bool ended = ends_with_error(faulty, [&, fault = Fault{number, kind, span}] { faulty.arm(fault); });
     struck = faulty.struck();
     SCOPED_TRACE("operation " + std::to_string(number) + ": " + faulty.struck_operation());
-    // An action may refuse its work where what it asks for is not there.
-    ASSERT_TRUE(ended == faulty.failed() || (ended && kind == FaultKind::kNoRight));
+    // After a save the game table is marked anew, with what can be listed: a look that fails ends nothing. An
+    // action may refuse its work where what it asks for is not there.
+    const bool was_a_look =
+        std::string_view(action().name) == "save" && faulty.struck_operation().starts_with("list ");
+    ASSERT_TRUE(ended == faulty.failed() || (ended && kind == FaultKind::kNoRight) || was_a_look);
     // Where there is no right to look, what is asked for is taken for missing, and its step is left out.
     const Tree found = folder.tree();
     ASSERT_EQ(ended ? game_->damage(found) : game_->strays(found), "");
