@@ -40,7 +40,8 @@ void DryRunFileSystem::add_foreseen(Folder& folder, const std::string& key,
     return;
   }
   Group before = group_on_disk(folder, key);
-  std::erase_if(before, [](const Entry& entry) { return !is_file(entry.entry); });
+  std::erase_if(
+      before, [](const Entry& entry) { return !is_file(entry.entry) || is_staging_name(entry.entry.name); });
   for (const Entry& entry : changed->second) {
     if (!is_file(entry.entry) || entry.is_original) continue;
     const auto replaced = settle(entry, before, file);

@@ -90,9 +90,13 @@ class ActionUnderFire : public testing::TestWithParam<std::tuple<ActionOfProgram
         ASSERT_TRUE(ending.exit_code == 0 || ending.exit_code == 1);
         // Where there is no right to look, what is asked for is taken for missing, and its step is left out.
         const bool ended = ending.exit_code == 1;
-        const Tree found = folder.tree();
+        Tree found = folder.tree();
         ASSERT_EQ(ended ? game_folder_->damage(found) : game_folder_->strays(found), "");
         if (!ended && tells_nothing(result)) {
+          // A left-over that can't be deleted is left to the next run.
+          std::erase_if(found, [](const auto& file) {
+            return is_staging_name(file.first.substr(file.first.rfind('/') + 1));
+          });
           ASSERT_EQ(game_folder_->difference(found), "");
         }
         errors += ending.exit_code;

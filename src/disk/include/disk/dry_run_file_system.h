@@ -53,7 +53,7 @@ class DryRunFileSystem : public FileSystem {
   void write_for(int row) { row_ = row; }
 
   /// Every file that was written or deleted, folder by folder in the order in which they were first written
-  /// to, by name within each.
+  /// to, by name within each. Left-overs of programs that have ended, which are deleted, are not among them.
   /// `pulse` is called for each.
   std::vector<ForeseenFile> foreseen(const Pulse& pulse = {});
 
