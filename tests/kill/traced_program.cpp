@@ -8,6 +8,7 @@
 #include <cerrno>
 #include <csignal>
 #include <cstdlib>
+#include <filesystem>
 #include <fstream>
 #include <stdexcept>
 
@@ -50,30 +51,23 @@ Ending run_command(const std::vector<std::string>& command, const std::string& f
   return wait_for(start_command(command, folder));
 }
 
-/// The one process that another has started, 0 while there is none.
-pid_t child_of(pid_t parent) {
-  const std::string number = std::to_string(parent);
-  std::ifstream children("/proc/" + number + "/task/" + number + "/children");
-  pid_t child = 0;
-  children >> child;
-  return child;
+/// The processes that a trace says were stopped by a signal, once for each time. A look at the state of a
+/// process would not do: at a call that is watched it is stopped as well, on a busy machine for long.
+std::vector<pid_t> stopped_processes(const std::string& trace_file) {
+  std::vector<pid_t> stopped;
+  std::ifstream lines(trace_file);
+  pid_t process = 0;
+  for (std::string line; lines >> process && std::getline(lines >> std::ws, line);) {
+    if (line == "--- stopped by SIGSTOP ---") stopped.push_back(process);
+  }
+  return stopped;
 }
 
-/// True where a process has been stopped by a signal and so stays; a call that is watched stops it too, but
-/// only for a moment.
-bool stays_stopped(pid_t process) {
-  constexpr int kLooks = 20;
-  for (int look = 0; look < kLooks; ++look) {
-    std::ifstream file("/proc/" + std::to_string(process) + "/stat");
-    std::string line;
-    std::getline(file, line);
-    const std::size_t name_end = line.rfind(')');
-    if (name_end == std::string::npos || name_end + 2 >= line.size()) return false;
-    const char state = line[name_end + 2];
-    if (state != 't' && state != 'T') return false;
-    ::usleep(1000);
-  }
-  return true;
+/// True where a process that this one has started has ended; it is still there to be waited for.
+bool has_ended(pid_t child) {
+  siginfo_t ended{};
+  return ::waitid(P_PID, static_cast<id_t>(child), &ended, WEXITED | WNOHANG | WNOWAIT) != 0 ||
+         ended.si_pid != 0;
 }
 
 /// The name of the call that a line of the trace, without its process number, tells of; "" for other lines.
@@ -149,24 +143,19 @@ Ending TracedProgram::run_failed(const std::string& folder, const std::string& c
 
 Ending TracedProgram::run_stopped(const std::string& folder, const std::string& call, int number,
                                   bool& stopped, const std::function<void()>& meanwhile) const {
+  std::filesystem::remove(trace_file_);
   const pid_t strace =
       start_command(under_strace({"-e", "trace=" + call, "-e",
                                   "inject=" + call + ":signal=STOP:when=" + std::to_string(number)}),
                     folder);
-  stopped = false;
-  siginfo_t ended{};
-  while (::waitid(P_PID, static_cast<id_t>(strace), &ended, WEXITED | WNOHANG | WNOWAIT) == 0 &&
-         ended.si_pid == 0) {
-    const pid_t program = child_of(strace);
-    if (program == 0 || !stays_stopped(program)) {
-      ::usleep(1000);
-      continue;
-    }
-    stopped = true;
-    meanwhile();
-    ::kill(program, SIGCONT);
-    break;
+  std::size_t continued = 0;
+  while (!has_ended(strace)) {
+    const std::vector<pid_t> processes = stopped_processes(trace_file_);
+    if (continued == 0 && !processes.empty()) meanwhile();
+    for (; continued < processes.size(); ++continued) ::kill(processes[continued], SIGCONT);
+    ::usleep(1000);
   }
+  stopped = continued > 0;
   return wait_for(strace);
 }
 
