@@ -72,19 +72,13 @@ class Installation {
 
   void install_file(const std::string& source, const std::string& name) {
     switch (use_of_set_file(name)) {
-      case SetFileUse::kGameDirectory:
-        copier_.copy(source, game_.path("\\") + name);
-        break;
-      case SetFileUse::kSavedataFolder:
-        copier_.copy(source, game_.path(kSavedata) + "\\" + name);
-        break;
-      case SetFileUse::kMusicFolder:
-        copier_.copy(source, game_.path(kMusic) + "\\" + name);
+      case SetFileUse::kCopied:
+        copier_.copy(source, game_.path(target_of_set_file(name)));
         break;
       case SetFileUse::kPatch:
         patch(source);
         break;
-      default:
+      case SetFileUse::kStays:
         ++summary_.kept;
     }
   }
@@ -116,9 +110,15 @@ SetFileUse use_of_set_file(std::string_view name) {
   const bool stays = std::any_of(kStayingEndings.begin(), kStayingEndings.end(),
                                  [&](std::string_view ending) { return upper.ends_with(ending); });
   if (stays || upper == "LOADOUTOFFSETS" || upper.starts_with("ECA")) return SetFileUse::kStays;
-  if (upper.ends_with(".MSN") || upper.ends_with(".SVE")) return SetFileUse::kSavedataFolder;
-  if (upper.ends_with(".BGM")) return SetFileUse::kMusicFolder;
-  return SetFileUse::kGameDirectory;
+  return SetFileUse::kCopied;
+}
+
+std::string target_of_set_file(std::string_view name) {
+  const std::string upper = to_upper(name);
+  std::string target;
+  if (upper.ends_with(".MSN") || upper.ends_with(".SVE")) target = kSavedata;
+  if (upper.ends_with(".BGM")) target = kMusic;
+  return target.append("\\").append(name);
 }
 
 std::string GameSetSummary::text() const {

@@ -26,20 +26,6 @@ std::vector<std::string> names_of(const GameFolder& game, const GameTable& table
   return {};
 }
 
-/// Where a file is copied to, as far as it tells files apart; "" for one that is not copied.
-std::string place_of(const std::string& name) {
-  switch (use_of_set_file(name)) {
-    case SetFileUse::kGameDirectory:
-      return to_upper(name);
-    case SetFileUse::kSavedataFolder:
-      return "Savedata\\" + to_upper(name);
-    case SetFileUse::kMusicFolder:
-      return "Music\\" + to_upper(name);
-    default:
-      return {};
-  }
-}
-
 }  // namespace
 
 RowOverlaps::RowOverlaps(const GameFolder& game, const GameTable& table) {
@@ -48,12 +34,12 @@ RowOverlaps::RowOverlaps(const GameFolder& game, const GameTable& table) {
   std::vector<bool> stays(could_go_.size(), false);
   for (int row = 1; row < table.row_count(); ++row) {
     for (const std::string& name : names_of(game, table, row)) {
-      const std::string place = place_of(name);
+      const SetFileUse use = use_of_set_file(name);
       const auto index = static_cast<std::size_t>(row);
-      if (use_of_set_file(name) == SetFileUse::kPatch) stays[index] = true;
-      if (place.empty()) continue;
+      if (use == SetFileUse::kPatch) stays[index] = true;
+      if (use != SetFileUse::kCopied) continue;
       could_go_[index] = true;
-      std::vector<int>& rows = writers[place];
+      std::vector<int>& rows = writers[to_upper(target_of_set_file(name))];
       if (rows.empty() || rows.back() != row) rows.push_back(row);
     }
   }

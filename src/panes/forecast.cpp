@@ -9,7 +9,9 @@
 #include <string_view>
 #include <utility>
 
+#include "disk/copier.h"
 #include "disk/store.h"
+#include "gamesets/clean_up.h"
 #include "panes/set_actions.h"
 
 namespace vorlund {
@@ -191,6 +193,21 @@ Forecasts foresee(const GameFolder& game, Status& observer, const SetsAtHand& se
     forecasts.is_whole = false;
   }
   return forecasts;
+}
+
+std::string what_clean_up_would_do(const GameFolder& game, const GameTable& games) {
+  try {
+    DryRunFileSystem dry(game.files);
+    const GameFolder folder{dry, game.directory};
+    Status nobody;
+    std::string text = "Would come to: " + clean_game_directory(folder, nobody, games).sentence();
+    if (const std::size_t stay = count_career_saves(folder); stay > 0) {
+      text += "; " + counted(stay, "career save stays", "career saves stay") + ", for no row names a home";
+    }
+    return dry.take_unseen().empty() ? text : text + "; as far as there is the right to look";
+  } catch (const std::exception& error) {
+    return std::string("Would end with an error: ") + error.what();
+  }
 }
 
 }  // namespace vorlund

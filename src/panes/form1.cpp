@@ -10,7 +10,6 @@
 #include "base/plain_name.h"
 #include "base/text.h"
 #include "disk/copier.h"
-#include "disk/dry_run_file_system.h"
 #include "disk/store.h"
 #include "gamesets/clean_up.h"
 #include "gamesets/game_record.h"
@@ -325,21 +324,6 @@ void Form1::change_tables(const std::function<void()>& change) {
   desk.say_too(
       which + " in \"Savedata\" would now " +
       (home.empty() ? "stay there: no row names their home" : "go home to " + home + " at \"Clean Up\""));
-}
-
-std::string Form1::what_clean_up_would_do() {
-  try {
-    DryRunFileSystem dry(desk.files);
-    const GameFolder folder{dry, desk.directory.Label16.caption};
-    Status nobody;
-    std::string text = "Would come to: " + clean_game_directory(folder, nobody, game.G2).sentence();
-    if (const std::size_t stay = count_career_saves(folder); stay > 0) {
-      text += "; " + counted(stay, "career save stays", "career saves stay") + ", for no row names a home";
-    }
-    return dry.take_unseen().empty() ? text : text + "; as far as there is the right to look";
-  } catch (const std::exception& error) {
-    return std::string("Would end with an error: ") + error.what();
-  }
 }
 
 void Form1::take_back() {

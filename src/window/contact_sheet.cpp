@@ -108,7 +108,6 @@ void ContactSheet::set_up() {
   setResizeMode(Adjust);
   setFrameShape(QFrame::NoFrame);
   setStyleSheet("QListView { background: transparent; border: none; }");
-  setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
   viewport()->setCursor(Qt::PointingHandCursor);
   decoding_.setSingleShot(true);
   connect(&decoding_, &QTimer::timeout, this, [this] { decode_some(); });
@@ -120,9 +119,10 @@ void ContactSheet::set_least_width(int pixels) {
   share_width();
 }
 
-/// Divides the width among as many tiles as it has room for.
+/// Divides the width among as many tiles as it has room for. The scroll bar has its room also while it is not
+/// there: otherwise it would come and go with the size of the tiles.
 void ContactSheet::share_width() {
-  const int room = std::max(viewport()->width() - 1, least_width_);
+  const int room = std::max(width() - verticalScrollBar()->sizeHint().width() - 1, least_width_);
   const int width = room / (room / least_width_);
   const int picture = width - 2 * kMargin - 2;
   const QSize size(width, picture * 3 / 4 + 2 * kMargin + 2 * fontMetrics().lineSpacing() + 8);

@@ -5,6 +5,7 @@
 #include <QPainterPath>
 #include <array>
 
+#include "panes/forecast.h"
 #include "window/theme.h"
 
 namespace vorlund {
@@ -67,7 +68,9 @@ MenuView::MenuView(Form1& form, const Perform& perform, QWidget* parent)
   dragged("Label18", form.Label18, &Form1::Label18_MouseUp, "Starts the game and minimises this window");
   dragged("Label5", form.Label5, &Form1::Label5_MouseUp,
           "Brings career saves home and deletes what sets have put into the game folder")
-      ->tool_tip_now = [&form] { return QString::fromStdString(form.what_clean_up_would_do()); };
+      ->tool_tip_now = [&form] {
+    return QString::fromStdString(what_clean_up_would_do(form.desk.game(), form.game.G2));
+  };
   dragged("Label7", form.Label7, &Form1::Label7_MouseUp, "Minimises this window");
   dragged("ExitButton", form.ExitButton, &Form1::ExitButton_MouseUp,
           "Ends the program; the tables are kept only where they were installed or saved");

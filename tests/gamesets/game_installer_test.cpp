@@ -88,9 +88,15 @@ TEST_F(GameInstaller, AFileThatOneEndingKeepsIsNotCopiedWhereAnotherWouldSendIt)
   EXPECT_EQ(use_of_set_file("ECAmission.MSN"), SetFileUse::kStays);
   EXPECT_EQ(use_of_set_file("eca.LDR"), SetFileUse::kPatch);
   EXPECT_EQ(use_of_set_file("x.ldr"), SetFileUse::kPatch);
-  EXPECT_EQ(use_of_set_file(".sve"), SetFileUse::kSavedataFolder);
-  EXPECT_EQ(use_of_set_file("sve"), SetFileUse::kGameDirectory);
-  EXPECT_EQ(use_of_set_file("eaw.exe"), SetFileUse::kGameDirectory);
+  EXPECT_EQ(use_of_set_file(".sve"), SetFileUse::kCopied);
+}
+
+TEST_F(GameInstaller, SendsMissionsSavesAndMusicToTheirFoldersAndAllElseToTheGameItself) {
+  EXPECT_EQ(target_of_set_file("a.Msn"), "\\Savedata\\a.Msn");
+  EXPECT_EQ(target_of_set_file(".sve"), "\\Savedata\\.sve");
+  EXPECT_EQ(target_of_set_file("sve"), "\\sve");
+  EXPECT_EQ(target_of_set_file("x.bGM"), "\\Music\\x.bGM");
+  EXPECT_EQ(target_of_set_file("eaw.exe"), "\\eaw.exe");
 }
 
 TEST_F(GameInstaller, SavedataAndMusicMustExist) {

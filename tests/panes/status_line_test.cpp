@@ -1,6 +1,7 @@
 // Every command says what it came to, and nothing that was said stays when it is no longer true.
 #include <algorithm>
 
+#include "panes/forecast.h"
 #include "panes/form_fixture.h"
 
 namespace vorlund {
@@ -179,13 +180,12 @@ TEST_F(StatusLine, TellsBeforehandWhatACleanUpComesToAndTouchesNothing) {
   start();
   const auto before = folder.tree();
   const std::string said_before = said();
-  EXPECT_EQ(form->what_clean_up_would_do(),
-            "Would come to: 2 career saves brought home to Careers\\Camp1; 1 loose file deleted");
+  const auto foretold = [this] { return what_clean_up_would_do(form->desk.game(), form->game.G2); };
+  EXPECT_EQ(foretold(), "Would come to: 2 career saves brought home to Careers\\Camp1; 1 loose file deleted");
   EXPECT_EQ(folder.tree(), before);
   EXPECT_EQ(said(), said_before);
   form->game.G2.set_cell(1, GameTable::kFolder, "Gone");
-  EXPECT_TRUE(form->what_clean_up_would_do().starts_with("Would end with an error: "))
-      << form->what_clean_up_would_do();
+  EXPECT_TRUE(foretold().starts_with("Would end with an error: ")) << foretold();
   EXPECT_EQ(folder.tree(), before);
 }
 

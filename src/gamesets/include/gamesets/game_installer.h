@@ -14,15 +14,17 @@ namespace vorlund {
 
 /// What becomes of a file of a set folder.
 enum class SetFileUse {
-  kGameDirectory,   ///< copied into the game directory
-  kSavedataFolder,  ///< copied into "Savedata": missions and saves
-  kMusicFolder,     ///< copied into "Music"
-  kPatch,           ///< loader patch: applied to the game's executable, never copied
-  kStays,           ///< stays in the store: pictures, texts, batch files and the like
+  kCopied,  ///< copied into the game folder
+  kPatch,   ///< loader patch: applied to the game's executable, never copied
+  kStays,   ///< stays in the store: pictures, texts, batch files and the like
 };
 
 /// Decides by the bare name, without regard to case.
 [[nodiscard]] SetFileUse use_of_set_file(std::string_view name);
+
+/// Where a file that is copied goes, as it is appended to the game directory: missions and saves into
+/// "Savedata", music into "Music", all others into the game directory itself.
+[[nodiscard]] std::string target_of_set_file(std::string_view name);
 
 /// What an installation came to.
 struct GameSetSummary {

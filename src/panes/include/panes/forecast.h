@@ -65,4 +65,7 @@ struct SetsAtHand {
 /// `stops` says so. Errors of a failing disk, and too little room, are not foretold.
 Forecasts foresee(const GameFolder& game, Status& observer, const SetsAtHand& sets);
 
+/// What a clean-up would come to, or the error that it would end with, in a sentence for a tooltip.
+[[nodiscard]] std::string what_clean_up_would_do(const GameFolder& game, const GameTable& games);
+
 }  // namespace vorlund

@@ -214,10 +214,6 @@ class Form1 {
     act([this] { clean_up(); });
   }
 
-  /// What a clean-up would come to now, in plain words: it is run on a disk that writes nothing. Where it
-  /// would fail, the error.
-  [[nodiscard]] std::string what_clean_up_would_do();
-
   /// Ctrl+Z and Ctrl+Y: takes the last change of the tables since the start or the clean-up back, and does it
   /// again. In memory alone; files are as they were.
   void take_back();
