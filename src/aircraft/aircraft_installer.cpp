@@ -59,7 +59,7 @@ class Installation {
   }
 
  private:
-  [[nodiscard]] const std::string& cell(int row, int column) const { return table_.cell(row, column); }
+  [[nodiscard]] std::string cell(int row, int column) const { return table_.cell(row, column); }
 
   void look_ahead() {
     list_ahead(flight_model_group_folder(game_, table_), "*.*");
@@ -144,8 +144,8 @@ class Installation {
 
   /// Where a row's skin lies; "" where it has none.
   [[nodiscard]] std::string skin_folder(int row) const {
-    const std::string& region = cell(row, PlaneTable::kRegion);
-    const std::string& folder = cell(row, PlaneTable::kSkinFolder);
+    const std::string region = cell(row, PlaneTable::kRegion);
+    const std::string folder = cell(row, PlaneTable::kSkinFolder);
     if (region.empty() || folder.empty() || !stays_below(region) || !stays_below(folder)) return {};
     return game_.path(kSkinStore) + "\\" + region + "\\" + folder;
   }

@@ -33,7 +33,7 @@ class Reviewer {
   }
 
  private:
-  [[nodiscard]] const std::string& cell(int row, int column) const { return table_.cell(row, column); }
+  [[nodiscard]] std::string cell(int row, int column) const { return table_.cell(row, column); }
 
   void remark(int row, const std::string& text) {
     remarks_.push_back("slot " + cell(row, PlaneTable::kSlot) + ": " + text);
@@ -56,7 +56,7 @@ class Reviewer {
   }
 
   void review_flight_model(int row) {
-    const std::string& name = cell(row, PlaneTable::kScriptFolder);
+    const std::string name = cell(row, PlaneTable::kScriptFolder);
     const std::vector<int>& without = seen_.without_flight_model;
     const bool found = std::find(without.begin(), without.end(), row) == without.end();
     if (name.empty()) {
@@ -71,8 +71,8 @@ class Reviewer {
   }
 
   void review_skin(int row) {
-    const std::string& region = cell(row, PlaneTable::kRegion);
-    const std::string& name = cell(row, PlaneTable::kSkinFolder);
+    const std::string region = cell(row, PlaneTable::kRegion);
+    const std::string name = cell(row, PlaneTable::kSkinFolder);
     if (region.empty() && name.empty()) return;
     if (region.empty() || name.empty()) {
       remark(row, "its skin is named by half, so none was installed");

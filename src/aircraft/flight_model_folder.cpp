@@ -13,7 +13,7 @@ std::string flight_model_group_folder(const GameFolder& game, const PlaneTable& 
 
 std::string flight_model_folder(const GameFolder& game, const PlaneTable& table, int row) {
   std::string group = flight_model_group_folder(game, table);
-  const std::string& name = table.cell(row, PlaneTable::kScriptFolder);
+  const std::string name = table.cell(row, PlaneTable::kScriptFolder);
   if (group.empty() || name.empty()) return group;
   return stays_below(name) ? group + "\\" + name : "";
 }

@@ -70,24 +70,24 @@ PlaneTable::PlaneTable() {
 
 void PlaneTable::clear() {
   columns = kColumns;
-  rows.clear();
+  clear_rows();
   current_row = 0;
   current_column = 0;
 }
 
 void PlaneTable::clear_slots() {
   for (int row = 1; row < row_count(); ++row) {
-    for (int column = 1; column < kColumns; ++column) set_cell(row, column, "");
+    set_row(row, {cell(row, kSlot)});
   }
   g1update();
 }
 
 void PlaneTable::fill_slots() {
-  if (rows.empty()) add_row({kHeader.begin(), kHeader.end()});
-  if (row_count() > kRows) rows.resize(kRows);
+  if (row_count() == 0) add_row({kHeader.begin(), kHeader.end()});
+  if (row_count() > kRows) replace_rows(kRows, row_count() - kRows, {});
   while (row_count() < kRows) {
     add_row({});
-    rows.back().hidden = !shows_all;
+    hide_row(row_count() - 1, !shows_all);
   }
   const PlaneCodes codes = PlaneCodeSet();
   for (int index = 0; index < kPlaneCount; ++index) {
@@ -112,7 +112,7 @@ std::vector<int> PlaneTable::shown_slots() const {
 }
 
 int PlaneTable::record_number(int row) const {
-  const std::string& text = cell(row, kRecordNumber);
+  const std::string text = cell(row, kRecordNumber);
   const double number = std::floor(leading_number(text));
   if (number < std::numeric_limits<std::int16_t>::min() ||
       number > std::numeric_limits<std::int16_t>::max()) {
@@ -128,7 +128,7 @@ void PlaneTable::select(int row, int column) {
 }
 
 void PlaneTable::g1update() {
-  if (rows.empty()) add_row({kHeader.begin(), kHeader.end()});
+  if (row_count() == 0) add_row({kHeader.begin(), kHeader.end()});
   for (int row = 1; row < std::min(kRows, row_count()); ++row) {
     hide_row(row, !is_used(row));
   }
@@ -152,7 +152,7 @@ void PlaneTable::switch_view() {
 
 void PlaneTable::clear_current() {
   if (!has_slot(current_row)) return;
-  for (int column = 1; column < kColumns; ++column) set_cell(current_row, column, "");
+  set_row(current_row, {cell(current_row, kSlot)});
   g1update();
 }
 

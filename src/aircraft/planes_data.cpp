@@ -53,7 +53,7 @@ class RecordWriter {
   }
 
  private:
-  [[nodiscard]] const std::string& cell(int column) const { return table_.cell(row_, column); }
+  [[nodiscard]] std::string cell(int column) const { return table_.cell(row_, column); }
 
   double patched(int line, double value) {
     switch (line) {
@@ -76,7 +76,7 @@ class RecordWriter {
     // and is left as its maker wrote it.
     if (value > 127 && !german) value -= 128;
     if (value < 127 && german) value += 128;
-    const std::string& role = cell(PlaneTable::kRole);
+    const std::string role = cell(PlaneTable::kRole);
     if (role == "Fighter") code_ = 1;
     if (role == "Bomber") code_ = 2;
     if (role == "F/B") code_ = 3;
@@ -85,7 +85,7 @@ class RecordWriter {
   }
 
   double side(double value) {
-    const std::string& name = cell(PlaneTable::kSide);
+    const std::string name = cell(PlaneTable::kSide);
     // Deliberate: the code of the flags line is not reset first and "Britsh" is misspelt. British rows so
     // carry their role and flyable code into this byte; that is what every set installed so far has given
     // the game, and another value would change how its British aircraft behave.
@@ -134,7 +134,7 @@ class RecordWriter {
 };
 
 int fuel_percent(const PlaneTable& table, int row) {
-  const std::string& text = table.cell(row, PlaneTable::kFuel);
+  const std::string text = table.cell(row, PlaneTable::kFuel);
   const double percent = std::floor(leading_number(text));
   if (percent < std::numeric_limits<std::int16_t>::min() ||
       percent > std::numeric_limits<std::int16_t>::max()) {

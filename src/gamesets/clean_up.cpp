@@ -97,7 +97,7 @@ int careers_row(const GameTable& table) {
 std::string careers_home_name(const GameTable& table) {
   const int row = careers_row(table);
   if (row == 0) return {};
-  const std::string& name = table.cell(row, GameTable::kFolder);
+  const std::string name = table.cell(row, GameTable::kFolder);
   return name.empty() ? "Careers" : "Careers\\" + name;
 }
 

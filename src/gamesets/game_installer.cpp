@@ -42,8 +42,8 @@ class Installation {
 
   void look_ahead() {
     for (int index = 1; index < table_.row_count(); ++index) {
-      const std::string& group = table_.cell(index, GameTable::kGroup);
-      const std::string& folder_name = table_.cell(index, GameTable::kFolder);
+      const std::string group = table_.cell(index, GameTable::kGroup);
+      const std::string folder_name = table_.cell(index, GameTable::kFolder);
       if (folder_name.empty()) continue;
       Row row;
       row.index = index;

@@ -10,13 +10,13 @@ GameTable::GameTable() {
 
 void GameTable::clear() {
   columns = 2;
-  rows.clear();
+  clear_rows();
   current_row = 0;
   current_column = 0;
 }
 
 void GameTable::g2update() {
-  if (rows.empty()) add_row({});
+  if (row_count() == 0) add_row({});
   for (int row = 1; row < row_count(); ++row) hide_row(row, cell(row, kFolder).empty());
   hide_row(0, false);
   set_cell(0, kGroup, "Folder group");
@@ -29,7 +29,7 @@ void GameTable::select(int row) {
 }
 
 std::string GameTable::current_in_words() const {
-  const std::string& folder = cell(current_row, kFolder);
+  const std::string folder = cell(current_row, kFolder);
   return folder.empty() ? "The row of \"" + cell(current_row, kGroup) + "\"" : "\"" + folder + "\"";
 }
 
@@ -37,7 +37,7 @@ void GameTable::clear_current(std::optional<std::string_view> last_group) {
   if (current_row == 0) return;
   set_cell(current_row, kFolder, "");
   if (last_group == cell(current_row, kGroup)) {
-    rows.erase(rows.begin() + current_row);
+    replace_rows(current_row, 1, {});
     select(0);
   }
   g2update();
@@ -46,7 +46,7 @@ void GameTable::clear_current(std::optional<std::string_view> last_group) {
 void GameTable::move_current_to_end() {
   if (current_row == 0) return;
   add_row({cell(current_row, kGroup), cell(current_row, kFolder)});
-  rows.erase(rows.begin() + current_row);
+  replace_rows(current_row, 1, {});
   g2update();
   select(row_count() - 1);
 }

@@ -2,6 +2,7 @@
 #include "gamesets/row_overlaps.h"
 
 #include <algorithm>
+#include <iterator>
 #include <string>
 #include <unordered_map>
 
@@ -18,8 +19,8 @@ namespace {
 
 /// What is only a mark must not end the program: whoever installs the row meets the error.
 std::vector<std::string> names_of(const GameFolder& game, const GameTable& table, int row) try {
-  const std::string& group = table.cell(row, GameTable::kGroup);
-  const std::string& folder = table.cell(row, GameTable::kFolder);
+  const std::string group = table.cell(row, GameTable::kGroup);
+  const std::string folder = table.cell(row, GameTable::kFolder);
   if (folder.empty() || !stays_below(group) || !stays_below(folder)) return {};
   return list_files(game.files, game.path(kGameStore) + "\\" + group + "\\" + folder, "*.*");
 } catch (const ActionError&) {
@@ -29,32 +30,42 @@ std::vector<std::string> names_of(const GameFolder& game, const GameTable& table
 }  // namespace
 
 RowOverlaps::RowOverlaps(const GameFolder& game, const GameTable& table) {
-  std::unordered_map<std::string, std::vector<int>> writers;
-  could_go_.assign(static_cast<std::size_t>(table.row_count()), false);
-  std::vector<bool> stays(could_go_.size(), false);
-  for (int row = 1; row < table.row_count(); ++row) {
-    for (const std::string& name : names_of(game, table, row)) {
+  const auto rows = static_cast<std::size_t>(table.row_count());
+  files_.resize(rows);
+  could_go_.resize(rows);
+  std::unordered_map<std::string, int> numbers;
+  std::vector<std::size_t> last_writers;
+  std::vector<bool> patches(rows);
+  for (std::size_t row = 1; row < rows; ++row) {
+    for (const std::string& name : names_of(game, table, static_cast<int>(row))) {
       const SetFileUse use = use_of_set_file(name);
-      const auto index = static_cast<std::size_t>(row);
-      if (use == SetFileUse::kPatch) stays[index] = true;
+      if (use == SetFileUse::kPatch) patches[row] = true;
       if (use != SetFileUse::kCopied) continue;
-      could_go_[index] = true;
-      std::vector<int>& rows = writers[to_upper(target_of_set_file(name))];
-      if (rows.empty() || rows.back() != row) rows.push_back(row);
+      const auto [file, is_new] =
+          numbers.emplace(to_upper(target_of_set_file(name)), static_cast<int>(numbers.size()));
+      if (is_new) last_writers.push_back(row);
+      last_writers[static_cast<std::size_t>(file->second)] = row;
+      files_[row].push_back(file->second);
     }
+    std::sort(files_[row].begin(), files_[row].end());
+    files_[row].erase(std::unique(files_[row].begin(), files_[row].end()), files_[row].end());
   }
-  for (const auto& [place, rows] : writers) {
-    stays[static_cast<std::size_t>(rows.back())] = true;
-    for (auto earlier = rows.begin(); earlier != rows.end(); ++earlier) {
-      for (auto later = earlier + 1; later != rows.end(); ++later) ++shared_[{*earlier, *later}];
-    }
+  for (std::size_t row = 1; row < rows; ++row) {
+    could_go_[row] = !files_[row].empty() && !patches[row] &&
+                     std::none_of(files_[row].begin(), files_[row].end(), [&](int file) {
+                       return last_writers[static_cast<std::size_t>(file)] == row;
+                     });
   }
-  for (std::size_t row = 0; row < stays.size(); ++row) could_go_[row] = could_go_[row] && !stays[row];
 }
 
 int RowOverlaps::shared_files(int row, int other) const {
-  const auto found = shared_.find(std::minmax(row, other));
-  return found == shared_.end() ? 0 : found->second;
+  const auto rows = static_cast<int>(files_.size());
+  if (row < 0 || row >= rows || other < 0 || other >= rows || row == other) return 0;
+  const std::vector<int>& ours = files_[static_cast<std::size_t>(row)];
+  const std::vector<int>& theirs = files_[static_cast<std::size_t>(other)];
+  std::vector<int> both;
+  std::set_intersection(ours.begin(), ours.end(), theirs.begin(), theirs.end(), std::back_inserter(both));
+  return static_cast<int>(both.size());
 }
 
 bool RowOverlaps::could_go(int row) const {

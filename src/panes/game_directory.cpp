@@ -24,7 +24,7 @@ void GameDirectory::start() {
 
 void GameDirectory::open_folder(int index) {
   std::string opened = Dir6.path;
-  if (index == -2) {
+  if (index == kParent) {
     opened = parent_of(Dir6.path);
   } else if (index >= 0 && index < static_cast<int>(Dir6.names.size())) {
     if (opened.find_last_of("\\/") + 1 != opened.size()) opened += '\\';

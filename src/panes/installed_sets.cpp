@@ -2,6 +2,7 @@
 #include "panes/installed_sets.h"
 
 #include <algorithm>
+#include <string_view>
 #include <vector>
 
 #include "aircraft/plane_record.h"
@@ -24,23 +25,28 @@ std::string joined(const Names& names) {
   return text;
 }
 
-/// The rows of a game table that name a folder, in order.
-std::vector<std::vector<std::string>> filled_rows(const GameTable& table) {
-  std::vector<std::vector<std::string>> rows;
+bool names_folder(const GameTable& table, int row) {
+  return !table.cell(row, GameTable::kFolder).empty();
+}
+
+/// The rows of a game table that name a folder, packed, in order.
+std::vector<std::string_view> filled_rows(const GameTable& table) {
+  std::vector<std::string_view> rows;
   for (int row = 1; row < table.row_count(); ++row) {
-    if (!table.cell(row, GameTable::kFolder).empty()) {
-      rows.push_back(table.rows[static_cast<std::size_t>(row)].cells);
-    }
+    if (names_folder(table, row)) rows.push_back(table.rows().packed(static_cast<std::size_t>(row)));
   }
   return rows;
 }
 
 /// Adds the group of each row of `table` that `other` does not hold.
 void compare_games(const GameTable& table, const GameTable& other, Names& missing) {
-  std::vector<std::vector<std::string>> known = filled_rows(other);
+  std::vector<std::string_view> known = filled_rows(other);
   std::sort(known.begin(), known.end());
-  for (const auto& row : filled_rows(table)) {
-    if (!std::binary_search(known.begin(), known.end(), row)) add_once(missing, row[GameTable::kGroup]);
+  for (int row = 1; row < table.row_count(); ++row) {
+    const std::string_view packed = table.rows().packed(static_cast<std::size_t>(row));
+    if (names_folder(table, row) && !std::binary_search(known.begin(), known.end(), packed)) {
+      add_once(missing, table.cell(row, GameTable::kGroup));
+    }
   }
 }
 
@@ -67,8 +73,9 @@ std::string what_is_installed(const GameFolder& game_folder, const GameTable& ga
   Names wanted;
   Names cleared;
   compare_games(game, installed_games, wanted);
-  if (wanted.empty() && filled_rows(game).size() == filled_rows(installed_games).size() &&
-      filled_rows(game) != filled_rows(installed_games)) {
+  const auto rows = filled_rows(game);
+  const auto installed_rows = filled_rows(installed_games);
+  if (wanted.empty() && rows.size() == installed_rows.size() && rows != installed_rows) {
     wanted.emplace_back("the order of the game table");
   }
   compare_games(installed_games, game, cleared);

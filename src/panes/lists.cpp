@@ -12,6 +12,7 @@ void FileList::refresh(FileSystem& files) {
 void FolderList::open(FileSystem& files, std::string_view folder) {
   path = folder;
   names = list_folders(files, folder);
+  finder.clear();
 }
 
 }  // namespace vorlund

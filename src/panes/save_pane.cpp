@@ -68,9 +68,10 @@ void SavePane::save() {
 
 void SavePane::say_spelling() {
   const CellTable& table = kind == SaveKind::kGameSet ? static_cast<const CellTable&>(game_.G2) : plane_.G1;
-  for (const CellTable::Row& row : table.rows) {
-    const auto cell = std::find_if_not(row.cells.begin(), row.cells.end(), can_spell);
-    if (cell != row.cells.end()) return desk_.say_spelling(*cell);
+  for (int row = 0; row < table.row_count(); ++row) {
+    const std::vector<std::string> cells = table.cells(row);
+    const auto cell = std::find_if_not(cells.begin(), cells.end(), can_spell);
+    if (cell != cells.end()) return desk_.say_spelling(*cell);
   }
 }
 

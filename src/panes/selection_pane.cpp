@@ -112,7 +112,7 @@ void SelectionPane::say_missing_models() {
   if (!folder.empty()) models = list_folders(desk_.files, folder);
   std::vector<std::string> slots;
   for (int row = 1; row < plane_.G1.row_count(); ++row) {
-    const std::string& wanted = plane_.G1.cell(row, PlaneTable::kScriptFolder);
+    const std::string wanted = plane_.G1.cell(row, PlaneTable::kScriptFolder);
     const auto is_wanted = [&wanted](const std::string& name) { return same_name(name, wanted); };
     if (wanted.empty() || std::any_of(models.begin(), models.end(), is_wanted)) continue;
     slots.push_back(plane_.G1.cell(row, PlaneTable::kSlot));
@@ -242,7 +242,7 @@ void SelectionPane::choose_game_folder() {
 void SelectionPane::ShowSelected() {
   const bool games = mode == PaneMode::kGameSet;
   const CellTable& table = games ? static_cast<const CellTable&>(game_.G2) : plane_.G1;
-  std::unordered_set<std::string_view> used;
+  std::unordered_set<std::string> used;
   for (int row = 1; row < table.row_count(); ++row) {
     if (games) {
       used.insert(table.cell(row, GameTable::kFolder));

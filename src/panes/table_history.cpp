@@ -2,66 +2,37 @@
 #include "panes/table_history.h"
 
 #include <algorithm>
-#include <span>
 #include <utility>
 
 namespace vorlund {
 
-namespace {
-
-using Rows = std::vector<std::vector<std::string>>;
-
-Rows cells_of(const CellTable& table) {
-  Rows rows;
-  rows.reserve(table.rows.size());
-  for (const CellTable::Row& row : table.rows) rows.push_back(row.cells);
-  return rows;
-}
-
-/// Replaces `replaced` rows from `first` on.
-void put(CellTable& table, Rows& kept, std::size_t first, std::size_t replaced, const Rows& rows) {
-  const auto exchange = [&](auto& all, auto make) {
-    const auto at = all.erase(all.begin() + static_cast<std::ptrdiff_t>(first),
-                              all.begin() + static_cast<std::ptrdiff_t>(first + replaced));
-    std::transform(rows.begin(), rows.end(), std::inserter(all, at), make);
-  };
-  exchange(table.rows, [](const auto& cells) { return CellTable::Row{cells}; });
-  exchange(kept, [](const auto& cells) { return cells; });
-}
-
-}  // namespace
-
 void TableHistory::begin() {
   steps_.clear();
   done_ = 0;
-  game_rows_ = cells_of(game_.G2);
-  plane_rows_ = cells_of(plane_.G1);
+  game_rows_ = game_.G2.rows();
+  plane_rows_ = plane_.G1.rows();
   group_ = plane_.G1.flight_model_group;
 }
 
-TableHistory::Change TableHistory::change_between(const Rows& before, const CellTable& after) {
-  const std::size_t shared = std::min(before.size(), after.rows.size());
+TableHistory::Change TableHistory::change_between(const Rows& before, const Rows& after) {
+  const std::size_t shared = std::min(before.size(), after.size());
   std::size_t first = 0;
-  while (first < shared && before[first] == after.rows[first].cells) ++first;
+  while (first < shared && before.packed(first) == after.packed(first)) ++first;
   std::size_t last = 0;
   while (last < shared - first &&
-         before[before.size() - 1 - last] == after.rows[after.rows.size() - 1 - last].cells) {
+         before.packed(before.size() - 1 - last) == after.packed(after.size() - 1 - last)) {
     ++last;
   }
-  Change change{first, {}, {}};
-  for (std::size_t row = first; row + last < before.size(); ++row) change.before.push_back(before[row]);
-  for (std::size_t row = first; row + last < after.rows.size(); ++row) {
-    change.after.push_back(after.rows[row].cells);
-  }
-  return change;
+  return {first, before.part(first, before.size() - first - last),
+          after.part(first, after.size() - first - last)};
 }
 
 void TableHistory::note(std::string_view what) {
-  Step step{std::string(what), change_between(game_rows_, game_.G2), change_between(plane_rows_, plane_.G1),
-            group_, plane_.G1.flight_model_group};
+  Step step{std::string(what), change_between(game_rows_, game_.G2.rows()),
+            change_between(plane_rows_, plane_.G1.rows()), group_, plane_.G1.flight_model_group};
   if (!step.game.any() && !step.plane.any() && step.group_before == step.group_after) return;
-  if (step.game.any()) game_rows_ = cells_of(game_.G2);
-  if (step.plane.any()) plane_rows_ = cells_of(plane_.G1);
+  if (step.game.any()) game_rows_ = game_.G2.rows();
+  if (step.plane.any()) plane_rows_ = plane_.G1.rows();
   group_ = step.group_after;
   steps_.resize(done_);
   steps_.push_back(std::move(step));
@@ -90,7 +61,8 @@ void TableHistory::apply(const Step& step, Direction direction) {
   const auto replace = [back](CellTable& table, Rows& kept, const Change& change) {
     const Rows& there = back ? change.after : change.before;
     const Rows& wanted = back ? change.before : change.after;
-    put(table, kept, change.first, there.size(), wanted);
+    table.replace_rows(static_cast<int>(change.first), static_cast<int>(there.size()), wanted);
+    kept = table.rows();
     return wanted.empty() ? 0 : static_cast<int>(change.first);  // no other row shall be taken for it
   };
   if (step.game.any()) {

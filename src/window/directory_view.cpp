@@ -9,14 +9,8 @@
 
 namespace vorlund {
 
-namespace {
-
-constexpr int kFolderRole = Qt::UserRole;
-
-}  // namespace
-
 DirectoryView::DirectoryView(Form1& form, const Perform& perform, QWidget* parent)
-    : PaneView(form, perform), parent_(parent), panel_(new Plate(parent)), folders_(new QListWidget(panel_)) {
+    : PaneView(form, perform), parent_(parent), panel_(new Plate(parent)) {
   const GameDirectory& directory = form.desk.directory;
   stand_on(panel_);
   auto* confirm = command("Label17", directory.Label17, Look::kPrimary, &Form1::Label17_Click,
@@ -29,38 +23,26 @@ DirectoryView::DirectoryView(Form1& form, const Perform& perform, QWidget* paren
     path->setText(QString::fromStdString(directory.Label16.caption));
     path->setVisible(directory.Label16.visible);
   });
-  folders_->setObjectName("Dir6");
-  theme::keep_font(*folders_);
-  folders_->setToolTip("A double click opens a folder and makes it the game folder");
-  folders_->setAccessibleName("Folders around the game directory");
-  QObject::connect(folders_, &QListWidget::itemActivated, panel_, [this](QListWidgetItem* item) {
-    run(&Form1::Dir6_DblClick, item->data(kFolderRole).toInt());
+  FolderList& shown = form.desk.directory.Dir6;
+  auto* folders = new ListView("Dir6", "Folders around the game directory", folders_, shown.finder, panel_,
+                               ListView::Kind::kFolders);
+  folders->setToolTip("A double click opens a folder and makes it the game folder");
+  folders->on_select = [this](int entry) {
+    run(&Form1::Dir6_DblClick, entry == 0 ? GameDirectory::kParent : entry - 1);
+  };
+  find_in(folders, shown.finder);
+  also([this, folders, &shown] {
+    folders_ = {".."};
+    folders_.insert(folders_.end(), shown.names.begin(), shown.names.end());
+    folders->apply(-1);
+    folders->setVisible(shown.visible);
   });
-  also([this] { list_folders(); });
 
   auto* layout = new QVBoxLayout(panel_);
   layout->setContentsMargins(16, 16, 16, 16);
   layout->addWidget(confirm);
   layout->addWidget(path);
-  layout->addWidget(folders_, 1);
-}
-
-void DirectoryView::list_folders() {
-  const FolderList& shown = form_.desk.directory.Dir6;
-  const QString current = QString::fromStdString(shown.path);
-  const int wanted = static_cast<int>(shown.names.size()) + 1;
-  folders_->setVisible(shown.visible);
-  if (folders_->property("path").toString() == current && folders_->count() == wanted) return;
-  folders_->setProperty("path", current);
-  folders_->clear();
-  const auto add = [&](const QString& name, int index) {
-    auto* item = new QListWidgetItem(name, folders_);
-    item->setData(kFolderRole, index);
-  };
-  add("..", -2);
-  for (std::size_t index = 0; index < shown.names.size(); ++index) {
-    add(QString::fromStdString(shown.names[index]), static_cast<int>(index));
-  }
+  layout->addWidget(folders, 1);
 }
 
 void DirectoryView::apply() {

@@ -169,7 +169,7 @@ QSize GridView::minimumSizeHint() const {
 int GridView::wanted_width(int column) const {
   int width = 0;
   for (int row = 0; row < std::min(model_.rowCount(), kMeasuredRows); ++row) {
-    const std::string& text = grid_.cell(model_.grid_row(row), column);
+    const std::string text = grid_.cell(model_.grid_row(row), column);
     const QString measured = QString::fromStdString(text.substr(0, kMeasuredBytes));
     width = std::max(width, fontMetrics().horizontalAdvance(measured) + kPadding);
   }

@@ -142,10 +142,11 @@ void ListView::mousePressEvent(QMouseEvent* event) {
   }
   pressed_ = row;
   if (kind_ == Kind::kList) act(row);
+  if (kind_ == Kind::kFolders) setCurrentIndex(row);
 }
 
 void ListView::mouseReleaseEvent(QMouseEvent* event) {
-  if (kind_ == Kind::kList || event->button() != Qt::LeftButton || !pressed_.isValid()) return;
+  if (kind_ != Kind::kLabels || event->button() != Qt::LeftButton || !pressed_.isValid()) return;
   const QModelIndex row = indexAt(event->position().toPoint());
   if (row != pressed_) return;
   selectionModel()->setCurrentIndex(row, QItemSelectionModel::NoUpdate);
@@ -157,6 +158,9 @@ void ListView::mouseDoubleClickEvent(QMouseEvent* event) {
   if (event->button() == Qt::LeftButton && row.isValid() && row == pressed_ && on_double_click) {
     pressed_ = QModelIndex();
     on_double_click();
+  } else if (kind_ == Kind::kFolders && row == pressed_) {
+    pressed_ = QModelIndex();
+    act(row);
   } else if (kind_ == Kind::kLabels || row != currentIndex()) {
     mousePressEvent(event);
   }

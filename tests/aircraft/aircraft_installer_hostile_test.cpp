@@ -74,7 +74,7 @@ class HostileCells : public ::testing::Test {
   std::string install(const std::string& group, const std::vector<std::string>& cells) {
     PlaneTable table;
     table.flight_model_group = group;
-    table.rows[1].cells = cells;
+    table.set_row(1, cells);
     table.g1update();
     PilotNames names;
     PictureMenu menu;

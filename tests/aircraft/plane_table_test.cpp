@@ -27,7 +27,7 @@ TEST(PlaneTable, StartsWithItsHeaderAndThirtyEmptySlots) {
   ASSERT_EQ(table.row_count(), 31);
   const std::vector<std::string> header = {"Slot",   "Region", "SkinFolder", "PlnDat", "ScriptFolder",
                                            "PName$", "Side",   "Flyable",    "Role",   "Fuel %"};
-  EXPECT_EQ(table.rows[0].cells, header);
+  EXPECT_EQ(table.cells(0), header);
   EXPECT_EQ(table.cell(1, 0), "P38H");
   EXPECT_EQ(table.cell(30, 0), "V1V1");
   for (int row = 1; row <= 30; ++row) EXPECT_FALSE(table.is_used(row)) << row;
@@ -42,7 +42,7 @@ TEST(PlaneTable, UpdateShowsExactlyTheRowsWithAnyFilledCellBesidesTheSlot) {
     table.g1update();
     EXPECT_EQ(table.shown_slots(), std::vector<int>{7}) << "column " << column;
     EXPECT_FALSE(table.shows_all);
-    EXPECT_FALSE(table.rows[0].hidden);
+    EXPECT_FALSE(table.is_hidden(0));
   }
 }
 
@@ -76,15 +76,15 @@ TEST(PlaneTable, ClearingTheSelectedRowKeepsItsSlotAndHidesIt) {
   table.clear_current();
   EXPECT_EQ(table.cell(4, PlaneTable::kSlot), "P47D");
   EXPECT_FALSE(table.is_used(4));
-  EXPECT_TRUE(table.rows[4].hidden);
+  EXPECT_TRUE(table.is_hidden(4));
   EXPECT_TRUE(table.is_used(9));
   EXPECT_EQ(table.current_row, 4) << "what is chosen next goes into the cleared slot";
   table.clear_current();
   EXPECT_TRUE(table.is_used(9)) << "a second click clears nothing else";
   table.select(0, 0);
-  const std::vector<std::string> header = table.rows[0].cells;
+  const std::vector<std::string> header = table.cells(0);
   table.clear_current();
-  EXPECT_EQ(table.rows[0].cells, header) << "the header is never cleared";
+  EXPECT_EQ(table.cells(0), header) << "the header is never cleared";
 }
 
 TEST(PlaneTable, CellsCycleThroughTheirValues) {

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <stdexcept>
+
 namespace vorlund {
 namespace {
 
@@ -12,9 +14,9 @@ TEST(CellTable, ARowIsCutOrFilledToTheColumns) {
   table.add_row({"Careers"});
   table.add_row({"Sounds", "Engines", "too much"});
   EXPECT_EQ(table.row_count(), 2);
-  EXPECT_EQ(table.rows[0].cells, (std::vector<std::string>{"Careers", ""}));
-  EXPECT_EQ(table.rows[1].cells, (std::vector<std::string>{"Sounds", "Engines"}));
-  EXPECT_FALSE(table.rows[0].hidden);
+  EXPECT_EQ(table.cells(0), (std::vector<std::string>{"Careers", ""}));
+  EXPECT_EQ(table.cells(1), (std::vector<std::string>{"Sounds", "Engines"}));
+  EXPECT_FALSE(table.is_hidden(0));
 }
 
 TEST(CellTable, ACellOutsideTheTableReadsAsEmpty) {
@@ -32,7 +34,85 @@ TEST(CellTable, ACellCanBeSet) {
   table.columns = 2;
   table.add_row({"a", "b"});
   table.set_cell(0, 1, "changed");
-  EXPECT_EQ(table.rows[0].cells, (std::vector<std::string>{"a", "changed"}));
+  EXPECT_EQ(table.cells(0), (std::vector<std::string>{"a", "changed"}));
+}
+
+TEST(CellTable, ASettingOfOneCellLeavesAllOthers) {
+  CellTable table;
+  table.columns = 3;
+  table.add_row({"a", "", "c"});
+  table.add_row({});
+  table.set_cell(1, 2, "late");
+  table.set_cell(0, 0, "");
+  EXPECT_EQ(table.cells(0), (std::vector<std::string>{"", "", "c"}));
+  EXPECT_EQ(table.cells(1), (std::vector<std::string>{"", "", "late"}));
+  EXPECT_THROW(table.set_cell(2, 0, "no such row"), std::out_of_range);
+  EXPECT_THROW(table.set_cell(0, 3, "no such column"), std::out_of_range);
+}
+
+TEST(CellTable, EveryByteMayStandInACell) {
+  std::string every;
+  for (int byte = 0; byte < 256; ++byte) every.push_back(static_cast<char>(byte));
+  CellTable table;
+  table.columns = 2;
+  for (const std::size_t length : {127, 128, 16383, 16384})
+    table.add_row({std::string(length, '\xFF'), every});
+  int row = 0;
+  for (const std::size_t length : {127, 128, 16383, 16384}) {
+    EXPECT_EQ(table.cell(row, 0), std::string(length, '\xFF'));
+    EXPECT_EQ(table.cell(row, 1), every);
+    ++row;
+  }
+}
+
+TEST(CellTable, ALineOfARecordBecomesARow) {
+  CellTable table;
+  table.columns = 2;
+  table.add_lines("Sky\tDusk\tdropped\r\n\r\nCareers\n\t\xC9t\xE9\rlast\t");
+  ASSERT_EQ(table.row_count(), 5);
+  EXPECT_EQ(table.cells(0), (std::vector<std::string>{"Sky", "Dusk"}));
+  EXPECT_EQ(table.cells(1), (std::vector<std::string>{"", ""}));
+  EXPECT_EQ(table.cells(2), (std::vector<std::string>{"Careers", ""}));
+  EXPECT_EQ(table.cells(3), (std::vector<std::string>{"", "\u00C9t\u00E9"}));
+  EXPECT_EQ(table.cells(4), (std::vector<std::string>{"last", ""}));
+}
+
+TEST(CellTable, RowsArePackedAlikeWhereTheirCellsAreTheSame) {
+  CellTable table;
+  table.columns = 2;
+  table.add_row({"a"});
+  table.add_row({"a", ""});
+  table.add_row({"", "a"});
+  table.add_lines("a\t\r\n");
+  const auto packed = [&](std::size_t row) { return table.rows().packed(row); };
+  EXPECT_EQ(packed(0), packed(1));
+  EXPECT_EQ(packed(0), packed(3));
+  EXPECT_NE(packed(0), packed(2));
+}
+
+TEST(CellTable, RowsStayAsTheyWereWhateverBecomesOfTheTable) {
+  CellTable table;
+  table.columns = 1;
+  for (const char* name : {"a", "b", "c", "d"}) table.add_row({name});
+  const CellTable::Rows middle = table.rows().part(1, 2);
+  table.set_cell(1, 0, "changed");
+  table.hide_row(3, true);
+  table.replace_rows(0, 3, middle);
+  ASSERT_EQ(table.row_count(), 3);
+  EXPECT_EQ(table.cell(0, 0), "b");
+  EXPECT_EQ(table.cell(1, 0), "c");
+  EXPECT_EQ(table.cell(2, 0), "d");
+  EXPECT_TRUE(table.is_hidden(2));
+  table.clear_rows();
+  EXPECT_EQ(table.row_count(), 0);
+  table.add_row({"new"});
+  table.replace_rows(1, 0, middle);
+  ASSERT_EQ(table.row_count(), 3);
+  EXPECT_EQ(table.cell(0, 0), "new");
+  EXPECT_EQ(table.cell(1, 0), "b");
+  EXPECT_EQ(table.cell(2, 0), "c");
+  EXPECT_FALSE(table.is_hidden(2));
+  EXPECT_THROW(table.replace_rows(2, 2, middle), std::out_of_range);
 }
 
 }  // namespace

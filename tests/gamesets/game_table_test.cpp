@@ -29,7 +29,7 @@ Rows rows_of(const GameTable& table) {
 
 std::vector<bool> hidden_rows(const GameTable& table) {
   std::vector<bool> hidden;
-  for (const CellTable::Row& row : table.rows) hidden.push_back(row.hidden);
+  for (int row = 0; row < table.row_count(); ++row) hidden.push_back(table.is_hidden(row));
   return hidden;
 }
 
@@ -59,7 +59,7 @@ TEST(GameTable, ReplacesWhateverTextsTheHeaderRowHeld) {
   table.add_row({"x", ""});
   table.g2update();
   EXPECT_EQ(table.cell(0, 0), "Folder group");
-  EXPECT_FALSE(table.rows[0].hidden);
+  EXPECT_FALSE(table.is_hidden(0));
 }
 
 TEST(GameTable, CommandsDoNothingToATableOfTheHeaderAlone) {

@@ -34,6 +34,7 @@ TEST_F(RowOverlapsTest, CountsTheFilesThatTwoRowsWriteInAnySpelling) {
   const RowOverlaps rows = overlaps();
   EXPECT_EQ(rows.shared_files(1, 2), 2);
   EXPECT_EQ(rows.shared_files(2, 1), 2);
+  EXPECT_EQ(rows.shared_files(1, 1), 0);
   EXPECT_EQ(rows.shared_files(1, 3), 0);
   EXPECT_EQ(rows.shared_files(1, 4), 0);
   EXPECT_EQ(rows.shared_files(7, 9), 0);

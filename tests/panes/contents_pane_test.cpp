@@ -179,10 +179,10 @@ TEST_F(ContentsPaneTest, SelectedRowsAreCopiedAsText) {
 TEST_F(ContentsPaneTest, NothingIsWrittenAndNoTableChanges) {
   start();
   const auto before = folder.tree();
-  const auto rows = form->game.G2.rows.size();
+  const int rows = form->game.G2.row_count();
   form->Contents_Click();
   EXPECT_EQ(folder.tree(), before);
-  EXPECT_EQ(form->game.G2.rows.size(), rows);
+  EXPECT_EQ(form->game.G2.row_count(), rows);
   EXPECT_EQ(form->game.G2.cell(2, GameTable::kFolder), "Dawn");
   EXPECT_TRUE(form->contents.ContentsFrame.visible);
   form->ContentsHide_Click();

@@ -157,13 +157,12 @@ TEST_F(Browser, FillsTheRowFromTheFlightModel) {
 
 TEST_F(Browser, ShowsTheHiddenRowThatItFills) {
   browser.DoFM();
-  auto& row = plane.G1.rows[kSpitfireRow];
-  row.hidden = true;
+  plane.G1.hide_row(kSpitfireRow, true);
   find_for_slot("Spit");
-  EXPECT_FALSE(row.hidden);
-  row.hidden = true;
+  EXPECT_FALSE(plane.G1.is_hidden(kSpitfireRow));
+  plane.G1.hide_row(kSpitfireRow, true);
   form.List3_Click(4);
-  EXPECT_FALSE(row.hidden);
+  EXPECT_FALSE(plane.G1.is_hidden(kSpitfireRow));
 }
 
 TEST_F(Browser, OverwritesWhatStandsInTheRowButKeepsAFilledRecordNumber) {

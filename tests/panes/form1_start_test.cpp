@@ -27,8 +27,8 @@ TEST_F(Start, ShowsTheVersionWithOneBlankAndNoPadding) {
 TEST_F(Start, FillsTheGameTableFromItsRecordAndHidesClearedRows) {
   start();
   ASSERT_EQ(form->game.G2.row_count(), 4);
-  EXPECT_TRUE(form->game.G2.rows[1].hidden);
-  EXPECT_FALSE(form->game.G2.rows[2].hidden);
+  EXPECT_TRUE(form->game.G2.is_hidden(1));
+  EXPECT_FALSE(form->game.G2.is_hidden(2));
   EXPECT_TRUE(form->WhatsLoaded.visible);
 }
 

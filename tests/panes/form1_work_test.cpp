@@ -105,19 +105,19 @@ TEST_F(Work, AClearedSlotTakesTheNextFlightModel) {
   form->Label3_Click();
   form->Label3_Click();
   const CellTable& table = form->plane.G1;
-  EXPECT_TRUE(table.rows[2].hidden);
+  EXPECT_TRUE(table.is_hidden(2));
   EXPECT_EQ(table.cell(3, PlaneTable::kSkinFolder), "Blue") << "a double click clears one slot";
   EXPECT_EQ(form->desk.status_line.caption,
             "Slot P38J was cleared and is still the selected one. Its files stay in the game folder until "
             "\"Clean Up\".");
   form->List2_Click(0);
   EXPECT_EQ(table.cell(2, PlaneTable::kScriptFolder), "Spit9");
-  EXPECT_FALSE(table.rows[2].hidden);
+  EXPECT_FALSE(table.is_hidden(2));
   EXPECT_EQ(table.cell(3, PlaneTable::kScriptFolder), "");
   form->Label3_Click();
   form->List3_Click(7);
   EXPECT_EQ(table.cell(2, PlaneTable::kRecordNumber), "7");
-  EXPECT_FALSE(table.rows[2].hidden);
+  EXPECT_FALSE(table.is_hidden(2));
 }
 
 TEST_F(Work, SaysWhatIsNotInstalledYet) {
@@ -214,14 +214,14 @@ TEST_F(Work, CleanUpBringsCareersHomeDeletesAndEmptiesBothTablesAndRecords) {
   EXPECT_EQ(form->plane.G1.cell(1, PlaneTable::kRegion), "");
   EXPECT_EQ(form->plane.Label25[0].caption, "");
   EXPECT_EQ(form->plane.Label25[1].caption, "");
-  EXPECT_TRUE(form->game.G2.rows[1].hidden);
+  EXPECT_TRUE(form->game.G2.is_hidden(1));
   EXPECT_EQ(form->selection.Label1.size(), 1U);
   EXPECT_FALSE(form->selection.Label1[0].visible);
   EXPECT_FALSE(form->desk.labels.Label2.visible);
   EXPECT_EQ(form->desk.status_line.caption,
             "1 career save brought home to Careers\\Camp1; 1 loose file deleted");
   start();
-  EXPECT_TRUE(form->game.G2.rows[2].hidden);
+  EXPECT_TRUE(form->game.G2.is_hidden(2));
 }
 
 TEST_F(Work, DelMSNDeletesTheDefaultMissionsAlone) {

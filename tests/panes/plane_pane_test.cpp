@@ -56,24 +56,24 @@ TEST_F(AircraftPane, ClickInEditModeCyclesTheCellAndShowsThePlaneCodes) {
 
 TEST_F(AircraftPane, ClickOnRegionOrSkinFolderOffersSkinsForThatRow) {
   pane.set_option(PlaneOption::kEditMode);
-  const std::vector<std::string> before = pane.G1.rows[12].cells;
+  const std::vector<std::string> before = pane.G1.cells(12);
   form.G1_MouseDown(12, PlaneTable::kRegion);
   form.G1_MouseDown(12, PlaneTable::kSkinFolder);
   EXPECT_TRUE(pane.List3.visible);
   EXPECT_TRUE(form.possible_skins.Frame4.visible);
   EXPECT_EQ(form.possible_skins.List4.items, std::vector<std::string>{"RAF\\Mk9"});
-  EXPECT_EQ(pane.G1.rows[12].cells, before);
+  EXPECT_EQ(pane.G1.cells(12), before);
 }
 
 TEST_F(AircraftPane, ClickOnTheHeaderIsNoSelectionAndChangesNothing) {
   pane.set_option(PlaneOption::kEditMode);
-  const std::vector<std::string> header = pane.G1.rows[0].cells;
+  const std::vector<std::string> header = pane.G1.cells(0);
   form.G1_MouseDown(5, PlaneTable::kSide);
   for (int column = 0; column < PlaneTable::kColumns; ++column) form.G1_MouseDown(0, column);
   EXPECT_EQ(pane.G1.current_row, 0);
-  EXPECT_EQ(pane.G1.rows[0].cells, header);
+  EXPECT_EQ(pane.G1.cells(0), header);
   form.Label3_Click();
-  EXPECT_EQ(pane.G1.rows[0].cells, header);
+  EXPECT_EQ(pane.G1.cells(0), header);
   EXPECT_FALSE(form.possible_skins.Frame4.visible);
 }
 

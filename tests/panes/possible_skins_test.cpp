@@ -145,8 +145,8 @@ TEST_F(PossibleSkinsPane, ChoosingPutsTheSkinIntoTheRowOfItsPlaneWhateverRowWasC
   EXPECT_EQ(row_text(kSpitfireRow), "SP09 RAF Mk9 11 - - - - - -");
   EXPECT_EQ(row_text(3), "P47C - - - - - - - - -");
   EXPECT_EQ(plane.G1.current_row, kSpitfireRow);
-  EXPECT_FALSE(plane.G1.rows[kSpitfireRow].hidden);
-  EXPECT_TRUE(plane.G1.rows[3].hidden);
+  EXPECT_FALSE(plane.G1.is_hidden(kSpitfireRow));
+  EXPECT_TRUE(plane.G1.is_hidden(3));
   EXPECT_TRUE(plane.Frame1.visible);
   EXPECT_FALSE(skins.Frame4.visible);
   EXPECT_EQ(last_outcome(), "\"Mk9\" is made for slot SP09 and stands in that row, not in the row of P47C");
@@ -173,7 +173,7 @@ TEST_F(PossibleSkinsPane, ASkinOfNoPlaneGoesToTheFirstRowWhileNoNumberIsKnown) {
 
 TEST_F(PossibleSkinsPane, NothingIsPutIntoATableWithoutTheRow) {
   make_skin("RAF/Mk9", {"psp09.3dz"});
-  plane.G1.rows.resize(5);
+  plane.G1.replace_rows(5, plane.G1.row_count() - 5, {});
   view("RAF\\Mk9");
   form.Image4_Click();
   EXPECT_EQ(plane.G1.row_count(), 5);

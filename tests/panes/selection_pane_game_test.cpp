@@ -138,7 +138,7 @@ TEST_F(GameSelection, ChoosingReplacesTheFolderOfTheGroupsRowAndAddsNone) {
   form.Image1_Click();
   EXPECT_EQ(game.G2.row_count(), 3);
   EXPECT_EQ(game.G2.cell(2, GameTable::kFolder), "Dusk");
-  EXPECT_FALSE(game.G2.rows[2].hidden);
+  EXPECT_FALSE(game.G2.is_hidden(2));
   EXPECT_EQ(game.G2.current_row, 1) << "choosing leaves the current row alone";
   EXPECT_FALSE(pane.Frame3.visible);
   EXPECT_FALSE(form.desk.labels.GroupLabel.visible);

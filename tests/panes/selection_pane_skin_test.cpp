@@ -77,7 +77,7 @@ TEST_F(SkinSelection, ChoosingPutsTheSkinIntoTheRowOfItsPlane) {
   open("RAF", "Mk9");
   form.Image1_Click();
   EXPECT_EQ(row_text(kSpitfireRow), "SP09 RAF Mk9 11 - - - - - -");
-  EXPECT_FALSE(plane.G1.rows[kSpitfireRow].hidden);
+  EXPECT_FALSE(plane.G1.is_hidden(kSpitfireRow));
   EXPECT_FALSE(labels.GroupLabel.visible);
   EXPECT_FALSE(labels.FolderLabel.visible);
   EXPECT_FALSE(labels.Label44.visible);

@@ -27,8 +27,8 @@ class TakingBack : public test::FormFixture {
     std::string text = form->plane.G1.flight_model_group + " " + form->plane.Label25[0].caption + "\n";
     for (const CellTable* table :
          {static_cast<const CellTable*>(&form->game.G2), static_cast<const CellTable*>(&form->plane.G1)}) {
-      for (const CellTable::Row& row : table->rows) {
-        for (const std::string& cell : row.cells) text += cell + "|";
+      for (int row = 0; row < table->row_count(); ++row) {
+        for (const std::string& cell : table->cells(row)) text += cell + "|";
         text += "\n";
       }
     }

@@ -57,7 +57,7 @@ class ComposeAircraft : public AircraftWindow {
 TEST_F(ComposeAircraft, ThirtySlotsAreFilledWithTheMouseAlone) {
   compose_all_slots();
   for (int record = 0; record < 30; ++record) {
-    EXPECT_EQ(table().rows.at(static_cast<std::size_t>(record + 1)).cells, expected_row(record));
+    EXPECT_EQ(table().cells(record + 1), expected_row(record));
   }
   auto* view = static_cast<GridView*>(widget("G1"));
   EXPECT_EQ(view->grid_model().rowCount(), 30);
@@ -100,7 +100,7 @@ TEST_F(ComposeAircraft, TheNextStartShowsWhatWasInstalled) {
   EXPECT_TRUE(sees("Frame1"));
   EXPECT_EQ(text("Label25(0)"), "Standard");
   for (int record = 0; record < 30; ++record) {
-    EXPECT_EQ(table().rows.at(static_cast<std::size_t>(record + 1)).cells, expected_row(record));
+    EXPECT_EQ(table().cells(record + 1), expected_row(record));
   }
 }
 

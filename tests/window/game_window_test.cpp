@@ -222,6 +222,26 @@ TEST_F(GameWindow, TheDirectoryIsChangedWithADoubleClick) {
   EXPECT_EQ(form().desk.directory.Label16.caption, folder.path("Music"));
 }
 
+TEST_F(GameWindow, AFolderIsFoundByTypingAndOpenedWithEnter) {
+  folder.make_folder("Music");
+  restart();
+  form().desk.directory.Label17.visible = true;
+  form().desk.directory.Dir6.visible = true;
+  window().perform([] {});
+  auto* list = static_cast<ListView*>(widget("Dir6"));
+  list->setFocus();
+  QTest::keyClicks(list, "usi");
+  ASSERT_EQ(list->model()->rowCount(), 1);
+  EXPECT_EQ(list->model()->index(0, 0).data().toString(), "Music");
+  QTest::keyClick(list, Qt::Key_Return);
+  EXPECT_EQ(form().desk.directory.Label16.caption, folder.path("Music"));
+  ASSERT_GT(list->model()->rowCount(), 0);
+  EXPECT_EQ(list->model()->index(0, 0).data().toString(), "..");
+  QTest::keyClick(list, Qt::Key_Down);
+  QTest::keyClick(list, Qt::Key_Return);
+  EXPECT_EQ(form().desk.directory.Label16.caption, folder.path());
+}
+
 TEST_F(GameWindow, WorkShowsItsCaptionAndAProgressBarWhileItRuns) {
   for (int index = 0; index < 400; ++index) {
     store("Tweaks/Smoke/file " + std::to_string(index), std::string(4000, 'x'));

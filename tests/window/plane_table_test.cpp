@@ -43,10 +43,10 @@ class PlaneTableWindow : public AircraftWindow {
 };
 
 TEST_F(PlaneTableWindow, AClickOutsideEditModeOnlyChoosesTheRow) {
-  const auto before = table().rows[1].cells;
+  const auto before = table().cells(1);
   click_cell(1, PlaneTable::kSide);
   click_cell(1, PlaneTable::kFuel);
-  EXPECT_EQ(table().rows[1].cells, before);
+  EXPECT_EQ(table().cells(1), before);
   EXPECT_EQ(table().current_row, 1);
   click_cell(5, PlaneTable::kSlot);
   EXPECT_EQ(table().current_row, 5);
@@ -91,14 +91,14 @@ TEST_F(PlaneTableWindow, ValuesThatAClickCyclesLookAsIfTheyDo) {
 TEST_F(PlaneTableWindow, KeysMoveTheCurrentCellAndSpaceCyclesIt) {
   click("Option1(2)");
   click_cell(1, PlaneTable::kPlaneName);
-  const auto before = table().rows[1].cells;
+  const auto before = table().cells(1);
   press_key("G1", Qt::Key_Down);
   EXPECT_EQ(table().current_row, 2);
   press_key("G1", Qt::Key_Up);
   press_key("G1", Qt::Key_Right);
   EXPECT_EQ(table().current_row, 1);
   EXPECT_EQ(table().current_column, PlaneTable::kSide);
-  EXPECT_EQ(table().rows[1].cells, before) << "moving changes nothing";
+  EXPECT_EQ(table().cells(1), before) << "moving changes nothing";
   press_key("G1", Qt::Key_Space);
   EXPECT_EQ(table().cell(1, PlaneTable::kSide), "German");
   press_key("G1", Qt::Key_Return);
@@ -108,14 +108,16 @@ TEST_F(PlaneTableWindow, KeysMoveTheCurrentCellAndSpaceCyclesIt) {
 TEST_F(PlaneTableWindow, AClickOnTheHeaderChangesNoCell) {
   click("Option1(2)");
   std::vector<std::vector<std::string>> before;
-  for (const CellTable::Row& row : table().rows) before.push_back(row.cells);
+  for (int row = 0; row < table().row_count(); ++row) before.push_back(table().cells(row));
   auto* header = view()->horizontalHeader();
   for (int column = 0; column < PlaneTable::kColumns; ++column) {
     const int x = header->sectionViewportPosition(column) + header->sectionSize(column) / 2;
     if (x >= header->viewport()->width()) continue;
     click_at(header->viewport(), QPoint(x, header->height() / 2));
   }
-  for (std::size_t row = 0; row < before.size(); ++row) EXPECT_EQ(table().rows[row].cells, before[row]);
+  for (int row = 0; row < table().row_count(); ++row) {
+    EXPECT_EQ(table().cells(row), before.at(static_cast<std::size_t>(row)));
+  }
   EXPECT_FALSE(sees("Frame4"));
 }
 

@@ -1,8 +1,6 @@
 // Which rows of the game table write the same files, told from the names in their folders alone.
 #pragma once
 
-#include <map>
-#include <utility>
 #include <vector>
 
 #include "disk/game_folder.h"
@@ -19,7 +17,7 @@ class RowOverlaps {
   /// Lists the folders of all rows. One that can't be listed counts as empty.
   RowOverlaps(const GameFolder& game, const GameTable& table);
 
-  /// Number of files that both rows write; the later row wins.
+  /// Number of files that both rows write; the later row wins. None for a row and itself.
   [[nodiscard]] int shared_files(int row, int other) const;
 
   /// True for a row that later rows leave nothing of: every file that it copies, and at least one, is copied
@@ -27,7 +25,7 @@ class RowOverlaps {
   [[nodiscard]] bool could_go(int row) const;
 
  private:
-  std::map<std::pair<int, int>, int> shared_;  ///< by the earlier row and the later one
+  std::vector<std::vector<int>> files_;  ///< that a row writes, each by a number of its own, ascending
   std::vector<bool> could_go_;
 };
 

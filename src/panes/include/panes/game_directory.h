@@ -19,7 +19,9 @@ class GameDirectory {
   /// Start-up: the process's current folder becomes the game directory and is offered for confirmation.
   void start();
 
-  /// Opens a folder of `Dir6` and takes it over; index -1 is the folder itself, -2 its parent.
+  static constexpr int kParent = -2;
+
+  /// Opens a folder of `Dir6` and takes it over; index -1 is the folder itself, `kParent` its parent.
   void open_folder(int index);
 
   /// The folder of `Dir6` becomes the game directory. What was loaded from the folder before stays as it is.

@@ -27,6 +27,7 @@ struct FolderList {
   std::string path;
   std::vector<std::string> names;
   bool visible = false;
+  Finder finder{};
 
   /// Points the list at a folder and lists it.
   void open(FileSystem& files, std::string_view folder);

@@ -32,7 +32,7 @@ class TableHistory {
   std::string do_again();
 
  private:
-  using Rows = std::vector<std::vector<std::string>>;
+  using Rows = CellTable::Rows;
 
   /// The rows from `first` on that a step has replaced.
   struct Change {
@@ -50,7 +50,7 @@ class TableHistory {
   };
   enum class Direction { kBack, kForth };
 
-  static Change change_between(const Rows& before, const CellTable& after);
+  static Change change_between(const Rows& before, const Rows& after);
   void apply(const Step& step, Direction direction);
 
   GamePane& game_;

@@ -1,7 +1,8 @@
 // The confirmation of the game directory on screen.
 #pragma once
 
-#include <QListWidget>
+#include <string>
+#include <vector>
 
 #include "window/pane_view.h"
 
@@ -14,11 +15,9 @@ class DirectoryView : public PaneView {
   void apply() override;
 
  private:
-  void list_folders();
-
   QWidget* parent_;
   QWidget* panel_;
-  QListWidget* folders_;
+  std::vector<std::string> folders_;  ///< ".." and the names
 };
 
 }  // namespace vorlund

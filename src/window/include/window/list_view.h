@@ -19,8 +19,9 @@ class ListView : public QListView {
  public:
   /// How an entry is acted on.
   enum class Kind {
-    kList,    ///< at the press of the mouse, and by each arrow key
-    kLabels,  ///< at the release over the pressed entry; arrow keys move a frame, Enter and Space act
+    kList,     ///< at the press of the mouse, and by each arrow key
+    kLabels,   ///< at the release over the pressed entry; arrow keys move a frame, Enter and Space act
+    kFolders,  ///< at a double click; arrow keys and the first press mark an entry, Enter and Space act
   };
 
   /// `texts` and `finder` outlive the list. `caption` is what assistive tools call the list.
