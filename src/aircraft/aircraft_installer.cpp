@@ -12,6 +12,7 @@
 #include "aircraft/planes_data.h"
 #include "base/action_error.h"
 #include "base/plain_name.h"
+#include "base/text.h"
 #include "disk/copier.h"
 #include "disk/patch_file.h"
 #include "disk/store.h"

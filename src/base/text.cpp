@@ -90,6 +90,16 @@ std::string quoted(std::string_view text) {
   return marked.append(text).append("\"");
 }
 
+std::string grouped(std::uint64_t number) {
+  std::string digits = std::to_string(number);
+  for (std::size_t at = digits.size(); at > 3;) digits.insert(at -= 3, 1, ',');
+  return digits;
+}
+
+std::string counted(std::uint64_t count, std::string_view one, std::string_view many) {
+  return grouped(count).append(" ").append(count == 1 ? one : many);
+}
+
 std::string first_of(const std::vector<std::string>& texts) {
   constexpr std::size_t kNamed = 3;
   std::string named;

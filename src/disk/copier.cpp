@@ -57,13 +57,9 @@ void Copier::copy(const std::string& source, const std::string& target) {
   ++(outcome == CopyOutcome::kWritten ? copied_ : unchanged_);
 }
 
-std::string counted(std::uint64_t count, std::string_view one, std::string_view many) {
-  return std::to_string(count).append(" ").append(count == 1 ? one : many);
-}
-
 std::string copies_in_words(const Copier& copier) {
   std::string text = counted(copier.copied(), "file", "files") + " copied";
-  if (copier.unchanged() > 0) text += ", " + std::to_string(copier.unchanged()) + " already in place";
+  if (copier.unchanged() > 0) text += ", " + grouped(copier.unchanged()) + " already in place";
   return text;
 }
 

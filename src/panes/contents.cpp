@@ -7,7 +7,6 @@
 
 #include "aircraft/own_files.h"
 #include "base/text.h"
-#include "disk/copier.h"
 #include "disk/store.h"
 
 namespace vorlund {
@@ -148,10 +147,9 @@ class Composer {
   static std::string in_words(const Sum& sum, Set set) {
     const std::string name = set == Set::kGames ? "Game set: " : "Aircraft set: ";
     if (sum.chosen == 0) return name + "no file is chosen.";
-    std::string text = name + counted(sum.chosen, "file", "files") +
-                       " chosen: " + std::to_string(sum.in_place) + " in place, " +
-                       std::to_string(sum.differ) + (sum.differ == 1 ? " differs, " : " differ, ") +
-                       std::to_string(sum.missing) + " missing. ";
+    std::string text = name + counted(sum.chosen, "file", "files") + " chosen: " + grouped(sum.in_place) +
+                       " in place, " + grouped(sum.differ) + (sum.differ == 1 ? " differs, " : " differ, ") +
+                       grouped(sum.missing) + " missing. ";
     const std::uint64_t written = sum.differ + sum.missing;
     if (written == 0) return text + "\"Process!\" would write nothing.";
     return text + "\"Process!\" would write " + counted(written, "file", "files") + ", " +

@@ -56,7 +56,8 @@ void ContentsPane::count_kinds() {
     const auto count = std::count_if(contents_.lines.begin(), contents_.lines.end(), [&](const auto& line) {
       return line.belongs_to(static_cast<ContentsKind>(kind));
     });
-    ContentsKinds.items.push_back(std::string(kContentsKinds[kind]) + " (" + std::to_string(count) + ")");
+    ContentsKinds.items.push_back(std::string(kContentsKinds[kind]) + " (" +
+                                  grouped(static_cast<std::uint64_t>(count)) + ")");
   }
 }
 

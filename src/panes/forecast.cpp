@@ -9,7 +9,7 @@
 #include <string_view>
 #include <utility>
 
-#include "disk/copier.h"
+#include "base/text.h"
 #include "disk/store.h"
 #include "gamesets/clean_up.h"
 #include "panes/set_actions.h"

@@ -9,7 +9,6 @@
 #include "aircraft/skin_list.h"
 #include "base/plain_name.h"
 #include "base/text.h"
-#include "disk/copier.h"
 #include "disk/store.h"
 #include "gamesets/clean_up.h"
 #include "gamesets/game_record.h"

@@ -1,7 +1,7 @@
 // Verbs of the game pane.
 #include "panes/game_pane.h"
 
-#include "disk/copier.h"
+#include "base/text.h"
 #include "gamesets/game_record.h"
 #include "panes/set_actions.h"
 

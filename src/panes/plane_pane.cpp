@@ -2,7 +2,7 @@
 #include "panes/plane_pane.h"
 
 #include "aircraft/plane_record.h"
-#include "disk/copier.h"
+#include "base/text.h"
 #include "panes/set_actions.h"
 
 namespace vorlund {

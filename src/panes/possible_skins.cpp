@@ -7,7 +7,6 @@
 #include "base/code_page.h"
 #include "base/plain_name.h"
 #include "base/text.h"
-#include "disk/copier.h"
 #include "disk/listing.h"
 #include "disk/store.h"
 

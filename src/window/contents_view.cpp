@@ -9,6 +9,7 @@
 #include <algorithm>
 
 #include "window/entry_delegate.h"
+#include "window/row_table.h"
 #include "window/theme.h"
 
 namespace vorlund {
@@ -22,19 +23,19 @@ constexpr int kChainHeight = 96;
 constexpr std::array<int, 5> kShares = {26, 27, 17, 20, 10};
 
 /// A table that gives its columns their shares whenever it is sized.
-class SharedTable : public QTableView {
+class SharedTable : public RowTable {
  public:
-  using QTableView::QTableView;
+  using RowTable::RowTable;
 
  protected:
   void keyPressEvent(QKeyEvent* event) override {
-    QTableView::keyPressEvent(event);
+    RowTable::keyPressEvent(event);
     // The focus comes with a current row that is not selected, and no key moves within a single row.
     if (currentIndex().isValid() && !selectionModel()->hasSelection()) selectRow(currentIndex().row());
   }
 
   void resizeEvent(QResizeEvent* event) override {
-    QTableView::resizeEvent(event);
+    RowTable::resizeEvent(event);
     for (std::size_t column = 0; column + 1 < kShares.size(); ++column) {
       setColumnWidth(static_cast<int>(column), viewport()->width() * kShares[column] / 100);
     }

@@ -90,7 +90,7 @@ QVariant GridModel::headerData(int section, Qt::Orientation orientation, int rol
 
 GridView::GridView(const QString& name, const QString& caption, const CellTable& grid,
                    std::span<const int> widths, QWidget* parent)
-    : QTableView(parent), grid_(grid), widths_(widths), model_(grid) {
+    : RowTable(parent), grid_(grid), widths_(widths), model_(grid) {
   setObjectName(name);
   setAccessibleName(caption);
   theme::keep_font(*this);
@@ -209,7 +209,7 @@ void GridView::share_room() {
 }
 
 void GridView::paintEvent(QPaintEvent* event) {
-  QTableView::paintEvent(event);
+  RowTable::paintEvent(event);
   if (model_.rowCount() > 0 || empty_text_.isEmpty()) return;
   QPainter painter(viewport());
   painter.setPen(theme::kQuietText);
@@ -217,12 +217,12 @@ void GridView::paintEvent(QPaintEvent* event) {
 }
 
 void GridView::showEvent(QShowEvent* event) {
-  QTableView::showEvent(event);
+  RowTable::showEvent(event);
   share_room();
 }
 
 void GridView::resizeEvent(QResizeEvent* event) {
-  QTableView::resizeEvent(event);
+  RowTable::resizeEvent(event);
   share_room();
 }
 
@@ -253,7 +253,7 @@ void GridView::keyPressEvent(QKeyEvent* event) {
     on_delete();
     return;
   }
-  QTableView::keyPressEvent(event);
+  RowTable::keyPressEvent(event);
   const QModelIndex now = currentIndex();
   if (now.isValid() && now != before && on_move) on_move(model_.grid_row(now.row()), now.column());
 }

@@ -15,9 +15,10 @@ namespace {
 
 constexpr int kLargestImageMegabytes = 400;
 
-/// So many pixels are decoded at most. A decoder that can scale leaves out up to 63 of 64.
+/// So many pixels are decoded at most. A decoder that can scale leaves most of them out, but looks at each
+/// block of them, also where the file only claims to have so many.
 constexpr double kMostPixels = 64e6;
-constexpr double kScalersMostPixels = 64 * kMostPixels;
+constexpr double kScalersMostPixels = 16 * kMostPixels;
 
 /// Reads a picture's bytes where they lie.
 class Decoder {

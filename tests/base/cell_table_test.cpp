@@ -53,12 +53,12 @@ TEST(CellTable, ASettingOfOneCellLeavesAllOthers) {
 TEST(CellTable, EveryByteMayStandInACell) {
   std::string every;
   for (int byte = 0; byte < 256; ++byte) every.push_back(static_cast<char>(byte));
+  constexpr std::size_t kLengths[] = {127, 128, 16383, 16384};
   CellTable table;
   table.columns = 2;
-  for (const std::size_t length : {127, 128, 16383, 16384})
-    table.add_row({std::string(length, '\xFF'), every});
+  for (const std::size_t length : kLengths) table.add_row({std::string(length, '\xFF'), every});
   int row = 0;
-  for (const std::size_t length : {127, 128, 16383, 16384}) {
+  for (const std::size_t length : kLengths) {
     EXPECT_EQ(table.cell(row, 0), std::string(length, '\xFF'));
     EXPECT_EQ(table.cell(row, 1), every);
     ++row;

@@ -207,6 +207,18 @@ TEST(Text, TheLeadingNumberIsReadInEveryLocale) {
   std::setlocale(LC_ALL, "C");
 }
 
+TEST(Text, LargeNumbersHaveCommasBetweenTheirThousands) {
+  EXPECT_EQ(grouped(0), "0");
+  EXPECT_EQ(grouped(999), "999");
+  EXPECT_EQ(grouped(1000), "1,000");
+  EXPECT_EQ(grouped(3014), "3,014");
+  EXPECT_EQ(grouped(100000), "100,000");
+  EXPECT_EQ(grouped(std::numeric_limits<std::uint64_t>::max()), "18,446,744,073,709,551,615");
+  EXPECT_EQ(counted(1, "file", "files"), "1 file");
+  EXPECT_EQ(counted(0, "file", "files"), "0 files");
+  EXPECT_EQ(counted(20000, "file", "files"), "20,000 files");
+}
+
 TEST(Text, EndlessDigitsGiveTheNearestNumberThereIs) {
   const double largest = std::numeric_limits<double>::max();
   const std::string nines(5000, '9');

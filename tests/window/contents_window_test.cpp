@@ -68,6 +68,17 @@ TEST_F(ContentsWindow, TheKeyboardSelectsARowWhoseChainIsShownAndCopied) {
   EXPECT_TRUE(QApplication::clipboard()->text().contains("sky.pal\trow 2: Tweaks\\Smoke"));
 }
 
+TEST_F(ContentsWindow, EndAndHomeGoToTheLastAndTheFirstRow) {
+  click("Contents(0)");
+  const int last = lines().model()->rowCount() - 1;
+  ASSERT_GT(last, 0);
+  lines().setFocus();
+  press_key("ContentsTable", Qt::Key_End);
+  EXPECT_EQ(form().contents.selected(), std::vector<int>{last});
+  press_key("ContentsTable", Qt::Key_Home);
+  EXPECT_EQ(form().contents.selected(), std::vector<int>{0});
+}
+
 TEST_F(ContentsWindow, AfterProcessEverythingIsInPlace) {
   click("WhatsLoaded");
   click("GameLoad");

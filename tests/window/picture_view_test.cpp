@@ -93,11 +93,14 @@ TEST(Pictures, OfAFormatThatCanBeScaledMayBeLarger) {
   PictureFile file = picture_file("jpg", {80, 40}, kRed);
   std::string bytes = *file.bytes;
   const std::size_t size = bytes.find("\xFF\xC0") + 5;
-  bytes.replace(size, 4, "\x75\x30\x75\x30");
-  EXPECT_EQ(why_undecodable({"mypic", std::make_shared<const std::string>(bytes)}), "");
-  bytes.replace(size, 4, "\xFF\xDC\xFF\xDC");
-  EXPECT_EQ(why_undecodable({"mypic", std::make_shared<const std::string>(bytes)}),
-            "The picture is too large to be shown: 65500 x 65500 pixels");
+  const auto why = [&](std::string_view height_and_width) {
+    bytes.replace(size, 4, height_and_width);
+    return why_undecodable({"mypic", std::make_shared<const std::string>(bytes)});
+  };
+  using namespace std::string_view_literals;
+  EXPECT_EQ(why("\x7D\x00\x7D\x00"sv), "") << "32,000 x 32,000 pixels";
+  EXPECT_EQ(why("\x7D\x00\x7D\x01"sv), "The picture is too large to be shown: 32001 x 32000 pixels");
+  EXPECT_EQ(why("\xFF\xDC\xFF\xDC"sv), "The picture is too large to be shown: 65500 x 65500 pixels");
 }
 
 TEST(Pictures, ThatAreTooLargeGiveWayToTheDefaultOne) {

@@ -105,6 +105,16 @@ TEST_F(PlaneTableWindow, KeysMoveTheCurrentCellAndSpaceCyclesIt) {
   EXPECT_EQ(table().cell(1, PlaneTable::kSide), "British");
 }
 
+TEST_F(PlaneTableWindow, EndAndHomeGoToTheLastAndTheFirstSlotInTheSameColumn) {
+  click_cell(3, PlaneTable::kSide);
+  press_key("G1", Qt::Key_End);
+  EXPECT_EQ(table().current_row, 30);
+  EXPECT_EQ(table().current_column, PlaneTable::kSide);
+  press_key("G1", Qt::Key_Home);
+  EXPECT_EQ(table().current_row, 1);
+  EXPECT_EQ(table().current_column, PlaneTable::kSide);
+}
+
 TEST_F(PlaneTableWindow, AClickOnTheHeaderChangesNoCell) {
   click("Option1(2)");
   std::vector<std::vector<std::string>> before;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -36,6 +37,12 @@ namespace vorlund {
 
 /// The text in quotation marks.
 [[nodiscard]] std::string quoted(std::string_view text);
+
+/// The number with a comma between each three digits: "3,014".
+[[nodiscard]] std::string grouped(std::uint64_t number);
+
+/// A number of things in words: "1 file", "3,014 files".
+[[nodiscard]] std::string counted(std::uint64_t count, std::string_view one, std::string_view many);
 
 /// The first three of the texts with "; " between them, and "; ..." behind them where there are more.
 [[nodiscard]] std::string first_of(const std::vector<std::string>& texts);

@@ -65,9 +65,6 @@ class Copier {
   std::uint64_t unchanged_ = 0;
 };
 
-/// "1 file", "2 files".
-std::string counted(std::uint64_t count, std::string_view one, std::string_view many);
-
 /// "12 files copied, 3 already in place".
 std::string copies_in_words(const Copier& copier);
 

@@ -2,13 +2,13 @@
 #pragma once
 
 #include <QAbstractTableModel>
-#include <QTableView>
 #include <functional>
 #include <span>
 #include <string>
 #include <vector>
 
 #include "base/cell_table.h"
+#include "window/row_table.h"
 
 namespace vorlund {
 
@@ -49,7 +49,7 @@ class GridModel : public QAbstractTableModel {
 };
 
 /// A table whose current cell is the grid's. Clicks, arrow keys, Enter and Space are handed back.
-class GridView : public QTableView {
+class GridView : public RowTable {
  public:
   /// `caption` is what assistive tools call the table; `widths` are those of its first columns, in twips. The
   /// grid and the widths outlive the view.
