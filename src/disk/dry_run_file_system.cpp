@@ -223,7 +223,7 @@ void DryRunFileSystem::replace_file(std::string_view path, std::string_view byte
   }
   found->content = {{}, std::make_shared<const std::string>(bytes)};
   found->is_original = false;
-  folder.writes[place.key].push_back({row_, {}, CopyOutcome::kWritten});
+  folder.written[place.key].writes.push_back({row_, {}, CopyOutcome::kWritten});
 }
 
 CopyForecast DryRunFileSystem::look_at_copy(const Place& target, const Content& content,
@@ -243,9 +243,11 @@ CopyOutcome DryRunFileSystem::copy_file(std::string_view source, std::string_vie
   const Place place = place_of(target);
   const CopyForecast copy = look_at_copy(place, content, target);
   Folder& folder = written_folder(place);
-  folder.writes[place.key].push_back({row_, std::string(source), copy.outcome});
+  Written& written = folder.written[place.key];
+  written.writes.push_back({row_, std::string(source), copy.outcome});
   if (place.group == nullptr && copy.outcome == CopyOutcome::kUnchanged) {
-    folder.in_place[place.key] = {place.name, copy.size};
+    written.spelling = place.name;
+    written.size = copy.size;
     return copy.outcome;
   }
   if (copy.outcome == CopyOutcome::kUnchanged) return copy.outcome;

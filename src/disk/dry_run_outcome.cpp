@@ -1,9 +1,8 @@
 // What a dry run has come to: the net change of every file.
 #include <algorithm>
-#include <tuple>
+#include <string_view>
 #include <utility>
 
-#include "base/text.h"
 #include "disk/dry_run_file_system.h"
 #include "dry_run_parts.h"
 
@@ -12,16 +11,20 @@ namespace vorlund {
 std::vector<ForeseenFile> DryRunFileSystem::foreseen(const Pulse& pulse) {
   std::vector<ForeseenFile> files;
   for (Folder& folder : folders_) {
-    const auto first = static_cast<std::ptrdiff_t>(files.size());
-    for (const auto& [key, writes] : folder.writes) {
-      if (pulse) pulse();
-      add_foreseen(folder, key, files);
-    }
+    // In upper case names have the order of their bytes.
+    std::vector<std::string_view> keys;
+    for (const auto& [key, written] : folder.written) keys.push_back(key);
     for (const auto& [key, group] : folder.changed) {
-      if (!folder.writes.contains(key)) add_foreseen(folder, key, files);
+      if (!folder.written.contains(key)) keys.push_back(key);
     }
-    std::sort(files.begin() + first, files.end(),
-              [](const ForeseenFile& a, const ForeseenFile& b) { return name_less(a.name, b.name); });
+    std::sort(keys.begin(), keys.end());
+    for (const std::string_view key : keys) {
+      if (pulse) pulse();
+      const auto first = static_cast<std::ptrdiff_t>(files.size());
+      add_foreseen(folder, std::string(key), files);
+      std::sort(files.begin() + first, files.end(),
+                [](const ForeseenFile& a, const ForeseenFile& b) { return a.name < b.name; });
+    }
   }
   return files;
 }
@@ -30,12 +33,13 @@ void DryRunFileSystem::add_foreseen(Folder& folder, const std::string& key,
                                     std::vector<ForeseenFile>& files) {
   ForeseenFile file;
   file.folder = folder.path;
-  const auto writes = folder.writes.find(key);
-  if (writes != folder.writes.end()) file.writes = writes->second;
+  const auto written = folder.written.find(key);
+  if (written != folder.written.end()) file.writes = written->second.writes;
   mark_what_counts(file.writes);
   const auto changed = folder.changed.find(key);
   if (changed == folder.changed.end()) {
-    std::tie(file.name, file.size) = folder.in_place.at(key);
+    file.name = written->second.spelling;
+    file.size = written->second.size;
     files.push_back(std::move(file));
     return;
   }

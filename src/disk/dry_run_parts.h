@@ -2,12 +2,12 @@
 #pragma once
 
 #include <algorithm>
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
-#include <utility>
 #include <vector>
 
 #include "base/text.h"
@@ -28,6 +28,13 @@ struct DryRunFileSystem::Entry {
   bool is_original = false;  ///< stands so on the disk
 };
 
+/// What was written under a name.
+struct DryRunFileSystem::Written {
+  std::vector<ForeseenWrite> writes;
+  std::string spelling;    ///< of what stands there already, while nothing has changed
+  std::uint64_t size = 0;  ///< of the same, in bytes
+};
+
 /// A folder that was written to.
 struct DryRunFileSystem::Folder {
   std::string path;
@@ -35,8 +42,7 @@ struct DryRunFileSystem::Folder {
   std::optional<std::vector<FolderEntry>> on_disk;                 ///< read when first needed
   std::unordered_map<std::string, std::vector<std::size_t>> keys;  ///< entries on the disk by name
   std::unordered_map<std::string, Group> changed;                  ///< by name, in upper case
-  std::unordered_map<std::string, std::vector<ForeseenWrite>> writes;
-  std::unordered_map<std::string, std::pair<std::string, std::uint64_t>> in_place;  ///< spelling and size
+  std::unordered_map<std::string, Written> written;                ///< by name, in upper case
 };
 
 /// A name in a folder.

@@ -19,7 +19,7 @@ namespace {
 constexpr int kKindsWidth = 226;
 constexpr int kChainHeight = 96;
 
-/// Share of the table's width that each column is given, in hundredths; the last has the rest.
+/// Share of the table's width that each column is given, in hundredths.
 constexpr std::array<int, 5> kShares = {26, 27, 17, 20, 10};
 
 /// A table that gives its columns their shares whenever it is sized.
@@ -36,7 +36,7 @@ class SharedTable : public RowTable {
 
   void resizeEvent(QResizeEvent* event) override {
     RowTable::resizeEvent(event);
-    for (std::size_t column = 0; column + 1 < kShares.size(); ++column) {
+    for (std::size_t column = 0; column < kShares.size(); ++column) {
       setColumnWidth(static_cast<int>(column), viewport()->width() * kShares[column] / 100);
     }
   }
@@ -166,7 +166,6 @@ QTableView* ContentsView::make_table() {
   header->setHighlightSections(false);
   header->setSectionsClickable(true);
   header->setSortIndicatorShown(true);
-  header->setStretchLastSection(true);
   QObject::connect(header, &QHeaderView::sectionClicked, frame_,
                    [this](int column) { run(&Form1::ContentsTable_Sort, column); });
   QObject::connect(table_->selectionModel(), &QItemSelectionModel::selectionChanged, frame_, [this] {

@@ -85,6 +85,7 @@ class DryRunFileSystem : public FileSystem {
   struct Content;
   struct Entry;
   struct Folder;
+  struct Written;
   struct Place;
   using Group = std::vector<Entry>;  ///< every spelling of one name
 
