@@ -24,19 +24,20 @@ constexpr auto kLongestShortValue = "MMMMMMMM";
 
 }  // namespace
 
-void GridModel::refresh() {
+bool GridModel::refresh() {
   std::vector<int> shown;
   for (int row = 1; row < grid_.row_count(); ++row) {
     if (!grid_.is_hidden(row)) shown.push_back(row);
   }
   if (shown == shown_ && columns_ == grid_.columns) {
     if (!shown_.empty()) emit dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
-    return;
+    return false;
   }
   beginResetModel();
   shown_ = std::move(shown);
   columns_ = grid_.columns;
   endResetModel();
+  return true;
 }
 
 int GridModel::grid_row(int table_row) const {
@@ -113,7 +114,7 @@ GridView::GridView(const QString& name, const QString& caption, const CellTable&
 
 void GridView::apply() {
   applying_ = true;
-  model_.refresh();
+  const bool others = model_.refresh();
   const int row = model_.table_row(grid_.current_row);
   const QModelIndex wanted = row < 0 ? QModelIndex() : model_.index(row, std::max(grid_.current_column, 0));
   if (currentIndex() != wanted || (row >= 0 && !selectionModel()->isRowSelected(row))) {
@@ -126,6 +127,7 @@ void GridView::apply() {
     }
   }
   applying_ = false;
+  if (others || !measured_.is(grid_.rows())) measure();
   share_room();
 }
 
@@ -176,25 +178,29 @@ int GridView::wanted_width(int column) const {
   return width;
 }
 
-void GridView::share_room() {
-  if (sharing_ == Sharing::kOff || grid_.columns == 0) return;
-  std::vector<int> least;
-  std::vector<int> widths;
+void GridView::measure() {
+  measured_ = grid_.rows();
+  least_.clear();
+  wanted_.clear();
   for (int column = 0; column < grid_.columns; ++column) {
-    least.push_back(least_width(column));
-    widths.push_back(std::max(least.back(), wanted_width(column)));
+    least_.push_back(least_width(column));
+    wanted_.push_back(std::max(least_.back(), wanted_width(column)));
   }
-  if (const int total = std::accumulate(least.begin(), least.end(), 0); total != least_total_) {
-    least_total_ = total;
-    updateGeometry();
-  }
-  if (!isVisible()) return;
+  const int total = std::accumulate(least_.begin(), least_.end(), 0);
+  if (sharing_ == Sharing::kOff || total == least_total_) return;
+  least_total_ = total;
+  updateGeometry();
+}
+
+void GridView::share_room() {
+  if (sharing_ == Sharing::kOff || wanted_.empty() || !isVisible()) return;
+  std::vector<int> widths = wanted_;
   int spare = viewport()->width() - std::accumulate(widths.begin(), widths.end(), 0);
   for (; spare < 0; ++spare) {
     int* longest = nullptr;
     for (std::size_t column = 0; column < widths.size(); ++column) {
       int& width = widths[column];
-      if (width > least[column] && (longest == nullptr || width > *longest)) longest = &width;
+      if (width > least_[column] && (longest == nullptr || width > *longest)) longest = &width;
     }
     if (longest == nullptr) break;
     --*longest;

@@ -95,7 +95,11 @@ TEST(CellTable, RowsStayAsTheyWereWhateverBecomesOfTheTable) {
   table.columns = 1;
   for (const char* name : {"a", "b", "c", "d"}) table.add_row({name});
   const CellTable::Rows middle = table.rows().part(1, 2);
+  const CellTable::Rows all = table.rows();
+  table.set_cell(1, 0, "b");
+  EXPECT_TRUE(table.rows().is(all)) << "it was so before";
   table.set_cell(1, 0, "changed");
+  EXPECT_FALSE(table.rows().is(all));
   table.hide_row(3, true);
   table.replace_rows(0, 3, middle);
   ASSERT_EQ(table.row_count(), 3);

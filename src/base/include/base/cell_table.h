@@ -28,6 +28,11 @@ class CellTable {
     /// `count` rows from row `first` on.
     [[nodiscard]] Rows part(std::size_t first, std::size_t count) const;
 
+    /// True for rows of one table between which nothing was changed.
+    [[nodiscard]] bool is(const Rows& other) const {
+      return text_ == other.text_ && starts_ == other.starts_;
+    }
+
     /// All cells of a row in one text, which is the same for two rows where their cells are. It stands until
     /// the table is changed.
     [[nodiscard]] std::string_view packed(std::size_t row) const;

@@ -18,8 +18,8 @@ class GridModel : public QAbstractTableModel {
   explicit GridModel(const CellTable& grid, QObject* parent = nullptr)
       : QAbstractTableModel(parent), grid_(grid) {}
 
-  /// Takes over what has changed in the grid.
-  void refresh();
+  /// Takes over what has changed in the grid; true where other rows are shown now.
+  bool refresh();
 
   /// Grid row of a table row, and table row of a grid row (-1 where it is hidden).
   [[nodiscard]] int grid_row(int table_row) const;
@@ -92,6 +92,7 @@ class GridView : public RowTable {
 
  private:
   enum class Sharing { kOff, kOn };
+  void measure();
   void share_room();
   [[nodiscard]] int header_width(int column) const;
   [[nodiscard]] int least_width(int column) const;
@@ -104,7 +105,10 @@ class GridView : public RowTable {
   bool applying_ = false;
   Sharing sharing_ = Sharing::kOff;
   std::vector<int> short_columns_;
-  int least_total_ = 0;  ///< pixels of all columns
+  CellTable::Rows measured_;  ///< what the widths below are those of
+  std::vector<int> least_;    ///< pixels that a column needs
+  std::vector<int> wanted_;   ///< pixels with which nothing of a column is cut
+  int least_total_ = 0;       ///< pixels of all columns
 };
 
 }  // namespace vorlund
