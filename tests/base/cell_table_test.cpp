@@ -93,6 +93,11 @@ TEST(CellTable, RowsArePackedAlikeWhereTheirCellsAreTheSame) {
 TEST(CellTable, RowsStayAsTheyWereWhateverBecomesOfTheTable) {
   CellTable table;
   table.columns = 1;
+  const auto names = [&] {
+    std::string text;
+    for (int row = 0; row < table.row_count(); ++row) text += table.cell(row, 0) + " ";
+    return text;
+  };
   for (const char* name : {"a", "b", "c", "d"}) table.add_row({name});
   const CellTable::Rows middle = table.rows().part(1, 2);
   const CellTable::Rows all = table.rows();
@@ -102,19 +107,13 @@ TEST(CellTable, RowsStayAsTheyWereWhateverBecomesOfTheTable) {
   EXPECT_FALSE(table.rows().is(all));
   table.hide_row(3, true);
   table.replace_rows(0, 3, middle);
-  ASSERT_EQ(table.row_count(), 3);
-  EXPECT_EQ(table.cell(0, 0), "b");
-  EXPECT_EQ(table.cell(1, 0), "c");
-  EXPECT_EQ(table.cell(2, 0), "d");
+  EXPECT_EQ(names(), "b c d ");
   EXPECT_TRUE(table.is_hidden(2));
   table.clear_rows();
-  EXPECT_EQ(table.row_count(), 0);
+  EXPECT_EQ(names(), "");
   table.add_row({"new"});
   table.replace_rows(1, 0, middle);
-  ASSERT_EQ(table.row_count(), 3);
-  EXPECT_EQ(table.cell(0, 0), "new");
-  EXPECT_EQ(table.cell(1, 0), "b");
-  EXPECT_EQ(table.cell(2, 0), "c");
+  EXPECT_EQ(names(), "new b c ");
   EXPECT_FALSE(table.is_hidden(2));
   EXPECT_THROW(table.replace_rows(2, 2, middle), std::out_of_range);
 }

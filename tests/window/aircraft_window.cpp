@@ -17,4 +17,13 @@ void AircraftWindow::open_aircraft_pane() {
   click("Label2");
 }
 
+void AircraftWindow::open_two_possible_skins() {
+  folder.write("~Vorlund/SkinStore/Axis/Captured P38H/PP38H.3dz", "shape");
+  restart();
+  open_aircraft_pane();
+  if (text("Label30") == "Show All") click("Label30");
+  click("Option1(2)");
+  click_cell(1, PlaneTable::kSkinFolder);
+}
+
 }  // namespace vorlund::test

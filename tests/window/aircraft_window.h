@@ -12,6 +12,9 @@ class AircraftWindow : public ProgramWindow {
 
   /// Chooses the flight-model group "Standard", opens the aircraft work and shows the plane table.
   void open_aircraft_pane();
+
+  /// Stores a second skin for the first slot and opens the list of both.
+  void open_two_possible_skins();
 };
 
 }  // namespace vorlund::test

@@ -283,12 +283,7 @@ TEST_F(Browsing, AGroupOfTwentyThousandFoldersNeedsNoMoreWidgetsThanASmallOne) {
 }
 
 TEST_F(Browsing, TheSheetOfPossibleSkinsGoesWithItsList) {
-  folder.write("~Vorlund/SkinStore/Axis/Captured P38H/PP38H.3dz", "shape");
-  restart();
-  open_aircraft_pane();
-  if (text("Label30") == "Show All") click("Label30");
-  click("Option1(2)");
-  click_cell(1, PlaneTable::kSkinFolder);
+  open_two_possible_skins();
   auto* skins = dynamic_cast<ContactSheet*>(widget("SkinSheet"));
   ASSERT_EQ(skins->entries().rowCount(), 2);
   click_at(skins->viewport(), skins->reach(1).center());

@@ -11,14 +11,7 @@ namespace {
 
 class PossibleSkinsWindow : public AircraftWindow {
  protected:
-  PossibleSkinsWindow() {
-    folder.write("~Vorlund/SkinStore/Axis/Captured P38H/PP38H.3dz", "shape");
-    restart();
-    open_aircraft_pane();
-    if (text("Label30") == "Show All") click("Label30");
-    click("Option1(2)");
-    click_cell(1, PlaneTable::kSkinFolder);
-  }
+  PossibleSkinsWindow() { open_two_possible_skins(); }
 };
 
 TEST_F(PossibleSkinsWindow, TheCellOfASlotListsTheSkinsMadeForIt) {
