@@ -20,7 +20,7 @@ constexpr int kKindsWidth = 226;
 constexpr int kChainHeight = 96;
 
 /// Share of the table's width that each column is given, in hundredths.
-constexpr std::array<int, 5> kShares = {26, 27, 17, 20, 10};
+constexpr std::array<int, 5> kShares = {23, 27, 16, 20, 14};
 
 /// A table that gives its columns their shares whenever it is sized.
 class SharedTable : public RowTable {

@@ -143,8 +143,11 @@ void GridView::share_columns(std::vector<int> short_columns) {
   sharing_ = Sharing::kOn;
   short_columns_ = std::move(short_columns);
   horizontalHeader()->setStretchLastSection(false);
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this] {
-    if (!applying_) sharing_ = Sharing::kOff;
+    if (applying_) return;
+    sharing_ = Sharing::kOff;
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
   });
 }
 

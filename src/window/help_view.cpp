@@ -29,10 +29,11 @@ constexpr auto kText = R"(
 <table cellspacing="3">
 <tr><td>Tab, Shift+Tab</td><td>go through all that can be seen</td></tr>
 <tr><td>Enter, Space</td><td>do what a click does</td></tr>
-<tr><td>Arrows, Home, End</td><td>move in tables and lists</td></tr>
+<tr><td>Letters</td><td>find entries of a list, a sheet or a group by any part of their names</td></tr>
+<tr><td>Arrows, Page Up, Page Down, Home, End</td><td>move in tables, lists and sheets</td></tr>
 <tr><td>Delete</td><td>clears the selected row; in the load pane takes a choice back</td></tr>
 <tr><td>Ctrl+Z, Ctrl+Y</td><td>take back and do again what was changed in the tables, never files</td></tr>
-<tr><td>Escape</td><td>closes the pane in front</td></tr>
+<tr><td>Escape</td><td>empties what was typed, then leaves a picture for the sheet, then closes the pane in front</td></tr>
 <tr><td>F1</td><td>shows this page</td></tr>
 </table>
 </td><td width="2%"></td><td width="49%" valign="top">
