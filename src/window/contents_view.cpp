@@ -19,8 +19,9 @@ namespace {
 constexpr int kKindsWidth = 226;
 constexpr int kChainHeight = 96;
 
-/// Share of the table's width that each column is given, in hundredths.
-constexpr std::array<int, 5> kShares = {23, 27, 16, 20, 14};
+/// What each column but the size, which is never cut, is given of the table's width, in hundredths of the
+/// rest.
+constexpr std::array<int, 4> kShares = {27, 31, 19, 23};
 
 /// A table that gives its columns their shares whenever it is sized.
 class SharedTable : public RowTable {
@@ -36,9 +37,13 @@ class SharedTable : public RowTable {
 
   void resizeEvent(QResizeEvent* event) override {
     RowTable::resizeEvent(event);
+    const int width = viewport()->width();
+    const int size =
+        std::max(width / 8, fontMetrics().horizontalAdvance("999 bytes") + 2 * EntryDelegate::kMargin + 4);
     for (std::size_t column = 0; column < kShares.size(); ++column) {
-      setColumnWidth(static_cast<int>(column), viewport()->width() * kShares[column] / 100);
+      setColumnWidth(static_cast<int>(column), (width - size) * kShares[column] / 100);
     }
+    setColumnWidth(static_cast<int>(kShares.size()), size);
   }
 };
 
