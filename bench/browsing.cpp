@@ -1,5 +1,7 @@
 // States how long groups of many folders take to their first painted frame, what memory they take over the
-// idle program, and how fast the sheet of 2,000 skins with pictures of 4 MB shows its tiles and scrolls.
+// idle program, how fast the sheet of 2,000 skins with pictures of 4 MB shows its tiles and scrolls, and how
+// fast 20,000 lines of the contents pane scroll.
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QImage>
 #include <QProcess>
@@ -9,6 +11,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
+#include <fstream>
 
 #include "measure.h"
 #include "memory.h"
@@ -25,6 +28,7 @@ namespace fs = std::filesystem;
 constexpr int kRounds = 5;
 constexpr int kSkins = 2'000;
 constexpr int kFoldersOfGroups[] = {1'000, 20'000, 40'000};
+constexpr int kLines = 20'000;
 constexpr int kScrolledFrames = 100;
 
 void paint(QWidget& window) {
@@ -58,6 +62,10 @@ void make_store(const fs::path& game) {
                              ("Folder " + std::to_string(folder)));
     }
   }
+  const fs::path set = store / "GameStore" / "Lines" / "Many";
+  fs::create_directories(set);
+  for (int file = 0; file < kLines; ++file) std::ofstream(set / ("File " + std::to_string(file) + ".dat"));
+  std::ofstream(store / "CurrentGameSet.txt") << "Folder group\tFolder name\r\nLines\tMany\r\n";
   const fs::path picture = game / "picture";
   write_picture(picture);
   for (int skin = 0; skin < kSkins; ++skin) {
@@ -82,6 +90,33 @@ int open_group(int argc, char** argv) {
       paint(window);
     });
     std::printf("%.1f %.1f\n", 1000 * seconds, resident_megabytes() - idle);
+    form.ended = true;
+  });
+}
+
+/// Seconds of each frame while a list or table is scrolled step by step.
+std::vector<double> scroll(MainWindow& window, const QAbstractItemView& view) {
+  std::vector<double> frames;
+  QScrollBar* bar = view.verticalScrollBar();
+  for (int step = 0; step < kScrolledFrames; ++step) {
+    frames.push_back(seconds_of([&] {
+      bar->setValue(bar->value() + bar->singleStep());
+      paint(window);
+    }));
+  }
+  return frames;
+}
+
+/// Mode of a child process: looks into the game folder and scrolls through what there would be.
+int scroll_lines(int argc, char** argv) {
+  return run_application(argc, argv, [](MainWindow& window) {
+    Form1& form = window.form();
+    window.perform([&] { form.Contents_Click(); });
+    paint(window);
+    const auto* table = window.findChild<QAbstractItemView*>("ContentsTable");
+    if (table->model()->rowCount() < kLines) qFatal("not every line is shown");
+    const std::vector<double> frames = scroll(window, *table);
+    std::printf("%.1f %.1f\n", 1000 * median(frames), 1000 * *std::max_element(frames.begin(), frames.end()));
     form.ended = true;
   });
 }
@@ -112,14 +147,7 @@ int browse_skins(int argc, char** argv) {
       });
       while (!is_complete(*sheet)) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     });
-    std::vector<double> frames;
-    QScrollBar* bar = sheet->verticalScrollBar();
-    for (int step = 0; step < kScrolledFrames; ++step) {
-      frames.push_back(seconds_of([&] {
-        bar->setValue(bar->value() + bar->singleStep());
-        paint(window);
-      }));
-    }
+    const std::vector<double> frames = scroll(window, *sheet);
     std::printf("%.1f %.1f %.1f %.1f %.1f\n", 1000 * frame, 1000 * screen, 1000 * median(frames),
                 1000 * *std::max_element(frames.begin(), frames.end()), resident_megabytes() - idle);
     form.ended = true;
@@ -153,6 +181,7 @@ int main(int argc, char** argv) {
   const std::string_view mode = argc > 1 ? argv[1] : "";
   if (mode == "--group") return open_group(argc, argv);
   if (mode == "--skins") return browse_skins(argc, argv);
+  if (mode == "--lines") return scroll_lines(argc, argv);
 
   const QCoreApplication application(argc, argv);
   const QTemporaryDir game;
@@ -169,5 +198,8 @@ int main(int argc, char** argv) {
       kSkins, figures[0], figures[1]);
   std::printf("a frame while scrolling: %.1f ms, the slowest of %d %.1f ms; %.0f MiB over idle\n", figures[2],
               kScrolledFrames, figures[3], figures[4]);
+  const auto lines = medians_of({"--lines"}, game.path());
+  std::printf("a frame while scrolling %d lines of the contents pane: %.1f ms, the slowest of %d %.1f ms\n",
+              kLines, lines[0], kScrolledFrames, lines[1]);
   return 0;
 }
