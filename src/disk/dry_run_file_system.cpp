@@ -33,6 +33,8 @@ class BytesReader final : public FileReader {
     return got;
   }
 
+  void seek(std::uint64_t offset) override { at_ = static_cast<std::size_t>(offset); }
+
  private:
   std::shared_ptr<const std::string> bytes_;
   std::size_t at_ = 0;

@@ -21,6 +21,8 @@ class TextReader : public FileReader {
     return count;
   }
 
+  void seek(std::uint64_t offset) override { at_ = static_cast<std::size_t>(offset); }
+
  private:
   std::string bytes_;
   std::size_t at_ = 0;

@@ -255,6 +255,11 @@ class PosixReader final : public FileReader {
     return static_cast<std::size_t>(got);
   }
 
+  void seek(std::uint64_t offset) override {
+    if (::lseek(source_.handle.descriptor(), static_cast<off_t>(offset), SEEK_SET) < 0)
+      throw_system_error("read", path_);
+  }
+
  private:
   PosixSource source_;
   std::string path_;

@@ -167,6 +167,10 @@ class WindowsReader final : public FileReader {
     return got;
   }
 
+  void seek(std::uint64_t offset) override {
+    if (!go_to(source_.handle(), offset)) throw_windows_error("read", source_.path());
+  }
+
  private:
   WindowsSource source_;
 };

@@ -45,9 +45,7 @@ bool WindowsContent::same(const WindowsSource& source, HANDLE target) {
 }
 
 void WindowsContent::copy(const WindowsSource& source, HANDLE target, std::string_view target_path) {
-  const LARGE_INTEGER start{};
-  if (SetFilePointerEx(source.handle(), start, nullptr, FILE_BEGIN) == 0)
-    throw_windows_error("read", source.path());
+  if (!go_to(source.handle(), 0)) throw_windows_error("read", source.path());
   for (;;) {
     const std::string_view bytes = next_block(source);
     if (!write_all(target, bytes)) throw_windows_error("write", target_path);

@@ -115,6 +115,12 @@ bool read_up_to(HANDLE file, char* bytes, std::size_t size, std::size_t& done) {
   return true;
 }
 
+bool go_to(HANDLE file, std::uint64_t offset) {
+  LARGE_INTEGER position;
+  position.QuadPart = static_cast<LONGLONG>(offset);
+  return SetFilePointerEx(file, position, nullptr, FILE_BEGIN) != 0;
+}
+
 bool write_all(HANDLE file, std::string_view bytes) {
   while (!bytes.empty()) {
     DWORD put = 0;

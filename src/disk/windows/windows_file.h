@@ -4,6 +4,7 @@
 #include <windows.h>
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -46,6 +47,9 @@ WindowsHandle open_existing(const std::wstring& path, DWORD access, DWORD flags)
 
 /// Reads up to `size` bytes, fewer only at the end of the file; false, with the system's error, on failure.
 bool read_up_to(HANDLE file, char* bytes, std::size_t size, std::size_t& done);
+
+/// The next read begins at that byte; false, with the system's error, on failure.
+bool go_to(HANDLE file, std::uint64_t offset);
 
 /// Writes all the bytes; false, with the system's error, on failure.
 bool write_all(HANDLE file, std::string_view bytes);

@@ -49,7 +49,7 @@ struct FolderEntry {
   bool hidden;  ///< hidden or system attribute on Windows; a leading dot elsewhere
 };
 
-/// A file that is open to be read from its beginning to its end.
+/// A file that is open to be read, from its beginning on.
 class FileReader {
  public:
   virtual ~FileReader() = default;
@@ -59,6 +59,9 @@ class FileReader {
 
   /// Reads the next `size` bytes, fewer only at the end of the file; returns how many.
   virtual std::size_t read(char* bytes, std::size_t size) = 0;
+
+  /// The next read begins `offset` bytes from the beginning of the file, of which it is not beyond the end.
+  virtual void seek(std::uint64_t offset) = 0;
 };
 
 /// The file operations of the program.

@@ -25,7 +25,9 @@ struct Picture {
   Place place{};
 };
 
-/// Reads a picture file; one larger than 256 MiB, or one that is not there, gives no picture.
+/// Reads a picture file; one larger than 256 MiB, or one that is not there, gives no picture. A bitmap with
+/// a side of 4,000 pixels or more is thinned out to at least 2,000, since it has no smaller size to be
+/// decoded at.
 PictureFile load_picture(FileSystem& files, std::string_view path);
 
 /// The first picture file of a skin's or a game set's folder, by name; none where it has none.
