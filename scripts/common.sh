@@ -84,3 +84,13 @@ build() {
   say "Building build/$preset${*:+: $*}"
   cmake --build "$root/build/$preset" --parallel "$jobs" ${*:+--target "$@"}
 }
+
+# test_in_wine PRESET: runs the test programs of build/PRESET side by side; fails where one does, and prints what it said.
+# Each program's output goes into a file: through a pipe the tests would wait for Wine's own servers to end.
+test_in_wine() {
+  prepare_wine
+  [ ! -d /dev/shm ] || wine reg add 'HKCU\Environment' /v TMP /d 'Z:\dev\shm' /f </dev/null >/dev/null
+  say "Running the tests of build/$1 in Wine"
+  printf '%s\0' "$root/build/$1"/bin/*_test.exe | xargs --null --max-args=1 --max-procs="$jobs" sh -c \
+    'timeout 1200 wine "$0" >"$0.log" 2>&1 </dev/null || { cat "$0.log"; exit 1; }'
+}

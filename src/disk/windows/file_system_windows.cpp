@@ -93,7 +93,7 @@ std::string WindowsFileSystem::current_folder() {
 void WindowsFileSystem::take_for_missing(std::string_view path) {
   const DWORD error = GetLastError();
   if (error == ERROR_ACCESS_DENIED) unseen_.emplace(path);
-  if (tells_nothing(error)) throw_windows_error("look for", path, error);
+  if (tells_nothing(error) || says_in_use(error)) throw_windows_error("look for", path, error);
 }
 
 std::vector<std::string> WindowsFileSystem::take_unseen() {
@@ -116,7 +116,8 @@ bool WindowsFileSystem::FolderExists(std::string_view path) {
 bool WindowsFileSystem::is_there(std::string_view path) {
   const auto attributes = attributes_of(long_path(path, EntryKind::kFile));
   const DWORD error = attributes ? ERROR_SUCCESS : GetLastError();
-  if (error == ERROR_ACCESS_DENIED || tells_nothing(error)) throw_windows_error("look for", path, error);
+  const bool unknown = error == ERROR_ACCESS_DENIED || tells_nothing(error) || says_in_use(error);
+  if (unknown) throw_windows_error("look for", path, error);
   return attributes && !is_folder(*attributes);
 }
 
