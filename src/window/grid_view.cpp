@@ -115,6 +115,7 @@ GridView::GridView(const QString& name, const QString& caption, const CellTable&
 void GridView::apply() {
   applying_ = true;
   const bool others = model_.refresh();
+  setAccessibleDescription(empty_words());
   const int row = model_.table_row(grid_.current_row);
   const QModelIndex wanted = row < 0 ? QModelIndex() : model_.index(row, std::max(grid_.current_column, 0));
   if (currentIndex() != wanted || (row >= 0 && !selectionModel()->isRowSelected(row))) {
@@ -219,10 +220,15 @@ void GridView::share_room() {
 
 void GridView::paintEvent(QPaintEvent* event) {
   RowTable::paintEvent(event);
-  if (model_.rowCount() > 0 || empty_text_.isEmpty()) return;
+  const QString words = empty_words();
+  if (words.isEmpty()) return;
   QPainter painter(viewport());
   painter.setPen(theme::kQuietText);
-  painter.drawText(viewport()->rect(), Qt::AlignCenter | Qt::TextWordWrap, empty_text_);
+  painter.drawText(viewport()->rect(), Qt::AlignCenter | Qt::TextWordWrap, words);
+}
+
+QString GridView::empty_words() const {
+  return model_.rowCount() > 0 ? QString() : empty_text_;
 }
 
 void GridView::showEvent(QShowEvent* event) {

@@ -67,6 +67,13 @@ void ListView::apply(int selected) {
   const bool others = model_.refresh();
   show_typed();
   show_selected(selected, others);
+  setAccessibleDescription(empty_words());
+}
+
+QString ListView::empty_words() const {
+  if (model_.rowCount() > 0) return {};
+  const QString typed = QString::fromStdString(model_.finder().typed);
+  return typed.isEmpty() ? empty_text_ : QStringLiteral("No name has \u201C%1\u201D in it").arg(typed);
 }
 
 void ListView::show_selected(int selected, bool others) {
@@ -115,10 +122,8 @@ void ListView::show_typed() {
 
 void ListView::paintEvent(QPaintEvent* event) {
   QListView::paintEvent(event);
-  const QString& typed = QString::fromStdString(model_.finder().typed);
-  const QString words =
-      typed.isEmpty() ? empty_text_ : QStringLiteral("No name has \u201C%1\u201D in it").arg(typed);
-  if (model_.rowCount() > 0 || words.isEmpty()) return;
+  const QString words = empty_words();
+  if (words.isEmpty()) return;
   QPainter painter(viewport());
   painter.setPen(theme::kQuietText);
   painter.drawText(viewport()->rect().adjusted(12, 12, -12, -12), Qt::AlignCenter | Qt::TextWordWrap, words);

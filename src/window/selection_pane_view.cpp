@@ -102,6 +102,7 @@ QWidget* SelectionPaneView::make_sheet() {
   sheet_->on_select = [this](int index) { run(&Form1::SelLab_Click, index); };
   sheet_->on_double_click = [this] { run(&Form1::SelLab_DblClick); };
   sheet_->setToolTip(kOfFolders);
+  sheet_->set_empty_text("This group has no folder to choose");
   find_in(sheet_, pane.found_folders);
   also([this, &pane] { show_sheet(pane.shows_sheet()); });
   return sheet_;

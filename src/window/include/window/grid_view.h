@@ -78,6 +78,9 @@ class GridView : public RowTable {
   /// Shown in place of rows while there is none.
   void set_empty_text(const QString& text) { empty_text_ = text; }
 
+  /// What stands in place of rows, "" while there are any. Screen readers are told it as well.
+  [[nodiscard]] QString empty_words() const;
+
   /// A few rows, and every column as narrow as it may get.
   [[nodiscard]] QSize minimumSizeHint() const override;
   [[nodiscard]] QSize sizeHint() const override { return minimumSizeHint(); }

@@ -42,8 +42,11 @@ class ListView : public QListView {
   /// Delete was pressed.
   std::function<void()> on_delete;
 
-  /// Shown in place of entries while there is none.
+  /// Shown in place of entries while there is none and nothing has been typed.
   void set_empty_text(const QString& text) { empty_text_ = text; }
+
+  /// What stands in place of entries, "" while there are any. Screen readers are told it as well.
+  [[nodiscard]] QString empty_words() const;
 
   /// From now on what was typed is shown only while the keyboard is here: another list shows it too.
   void show_typed_when_focused() { typed_when_focused_ = true; }
