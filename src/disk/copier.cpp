@@ -57,10 +57,4 @@ void Copier::copy(const std::string& source, const std::string& target) {
   ++(outcome == CopyOutcome::kWritten ? copied_ : unchanged_);
 }
 
-std::string copies_in_words(const Copier& copier) {
-  std::string text = counted(copier.copied(), "file", "files") + " copied";
-  if (copier.unchanged() > 0) text += ", " + grouped(copier.unchanged()) + " already in place";
-  return text;
-}
-
 }  // namespace vorlund

@@ -65,7 +65,4 @@ class Copier {
   std::uint64_t unchanged_ = 0;
 };
 
-/// "12 files copied, 3 already in place".
-std::string copies_in_words(const Copier& copier);
-
 }  // namespace vorlund
