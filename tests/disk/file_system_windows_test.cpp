@@ -174,6 +174,14 @@ TEST(WindowsErrors, OfADiskThatFailsTellNothingAndAnAnswerDoes) {
   }
 }
 
+TEST(WindowsErrors, OfAFileThatIsOpenElsewhereSayThatItIsInUse) {
+  for (const DWORD error :
+       {ERROR_SHARING_VIOLATION, ERROR_LOCK_VIOLATION, ERROR_DELETE_PENDING, ERROR_USER_MAPPED_FILE}) {
+    EXPECT_TRUE(says_in_use(error)) << error;
+  }
+  EXPECT_FALSE(says_in_use(ERROR_ACCESS_DENIED));
+}
+
 TEST_F(WindowsFileSystemTest, AnErrorCarriesTheSystemsText) {
   try {
     files_->read_file(folder_.path("nothing"));

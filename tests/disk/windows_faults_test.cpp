@@ -6,6 +6,7 @@
 #include <shellapi.h>
 
 #include <functional>
+#include <optional>
 #include <string>
 
 #include "base/action_error.h"
@@ -24,13 +25,18 @@ struct Answers {
   DWORD link_tag = IO_REPARSE_TAG_SYMLINK;
   std::wstring short_form;  ///< what ends so is looked for as `long_form`
   std::wstring long_form;
-  bool renames_case = false;  ///< a rename that changes nothing but case is done
+  bool replaces_case = false;  ///< what replaces a file brings its own spelling
+  bool renames_case = false;   ///< a rename that changes nothing but case is done
   std::function<DWORD(DWORD access, DWORD disposition)> open_error = [](DWORD, DWORD) {
     return ERROR_SUCCESS;
   };
   DWORD information_error = ERROR_SUCCESS;
   DWORD list_error = ERROR_SUCCESS;
   DWORD current_folder_error = ERROR_SUCCESS;
+  DWORD seek_error = ERROR_SUCCESS;
+  DWORD exit_code_error = ERROR_SUCCESS;
+  std::optional<DWORD> exit_code;  ///< of every process
+  bool writes_nothing = false;     ///< and says so
   DWORD upper_case_error = ERROR_SUCCESS;
   DWORD create_process_error = ERROR_SUCCESS;
   DWORD shell_error = ERROR_SUCCESS;
@@ -128,11 +134,38 @@ BOOL WINAPI move_file(LPCWSTR from, LPCWSTR to, DWORD flags) {
   return real(from, between.c_str(), flags) != 0 ? real(between.c_str(), to, flags) : FALSE;
 }
 
+BOOL WINAPI set_information(HANDLE file, FILE_INFO_BY_HANDLE_CLASS kind, LPVOID information, DWORD size) {
+  static const auto real =
+      system_function<decltype(&SetFileInformationByHandle)>("SetFileInformationByHandle");
+  if (answers.replaces_case && kind == FileRenameInfo)
+    DeleteFileW(static_cast<const FILE_RENAME_INFO*>(information)->FileName);
+  return real(file, kind, information, size);
+}
+
 DWORD WINAPI current_folder(DWORD size, LPWSTR folder) {
   static const auto real = system_function<decltype(&GetCurrentDirectoryW)>("GetCurrentDirectoryW");
   if (answers.current_folder_error == ERROR_SUCCESS) return real(size, folder);
   SetLastError(answers.current_folder_error);
   return 0;
+}
+
+BOOL WINAPI set_position(HANDLE file, LARGE_INTEGER distance, PLARGE_INTEGER position, DWORD method) {
+  static const auto real = system_function<decltype(&SetFilePointerEx)>("SetFilePointerEx");
+  return answers.seek_error == ERROR_SUCCESS ? real(file, distance, position, method)
+                                             : failed(answers.seek_error);
+}
+
+BOOL WINAPI get_exit_code(HANDLE process, LPDWORD code) {
+  static const auto real = system_function<decltype(&GetExitCodeProcess)>("GetExitCodeProcess");
+  if (answers.exit_code_error != ERROR_SUCCESS) return failed(answers.exit_code_error);
+  if (!answers.exit_code) return real(process, code);
+  *code = *answers.exit_code;
+  return TRUE;
+}
+
+BOOL WINAPI write_file(HANDLE file, LPCVOID bytes, DWORD size, LPDWORD written, LPOVERLAPPED overlapped) {
+  static const auto real = system_function<decltype(&WriteFile)>("WriteFile");
+  return real(file, bytes, answers.writes_nothing ? 0 : size, written, overlapped);
 }
 
 bool is_global(LPCWSTR name) {
@@ -173,7 +206,11 @@ decltype(&GetFileInformationByHandle) __imp_GetFileInformationByHandle = get_inf
 decltype(&FindFirstFileExW) __imp_FindFirstFileExW = find_first;
 decltype(&FindNextFileW) __imp_FindNextFileW = find_next;
 decltype(&MoveFileExW) __imp_MoveFileExW = move_file;
+decltype(&SetFileInformationByHandle) __imp_SetFileInformationByHandle = set_information;
 decltype(&GetCurrentDirectoryW) __imp_GetCurrentDirectoryW = current_folder;
+decltype(&SetFilePointerEx) __imp_SetFilePointerEx = set_position;
+decltype(&GetExitCodeProcess) __imp_GetExitCodeProcess = get_exit_code;
+decltype(&WriteFile) __imp_WriteFile = write_file;
 decltype(&CreateMutexW) __imp_CreateMutexW = create_mutex;
 decltype(&OpenMutexW) __imp_OpenMutexW = open_mutex;
 decltype(&LCMapStringEx) __imp_LCMapStringEx = map_string;
@@ -340,12 +377,72 @@ TEST_F(WindowsFaults, WithoutACurrentFolderThereIsAnError) {
   EXPECT_FALSE(files_->FileExists("eaw.exe"));
 }
 
+TEST_F(WindowsFaults, AReplacedFileIsSpelledAnewWhereThatIsDoneAtOnce) {
+  folder_.write("source", "new");
+  folder_.write("TARGET", "old");
+  answers.replaces_case = true;
+  EXPECT_EQ(copy("source", "target"), CopyOutcome::kWritten);
+  EXPECT_EQ(folder_.tree(), (Tree{{"source", "new"}, {"target", "new"}}));
+}
+
 TEST_F(WindowsFaults, ARenameThatChangesCaseAloneIsTakenWhereItIsDone) {
   folder_.write("source", "new");
   folder_.write("TARGET", "old");
   answers.renames_case = true;
   EXPECT_EQ(copy("source", "target"), CopyOutcome::kWritten);
   EXPECT_EQ(folder_.tree(), (Tree{{"source", "new"}, {"target", "new"}}));
+}
+
+TEST_F(WindowsFaults, AStepOverANameOfItsOwnLeavesTheOneThatStandsThereAlone) {
+  folder_.write("source", "new");
+  folder_.write("TARGET", "old");
+  folder_.write(staging_name(0), "a stranger's");
+  EXPECT_EQ(copy("source", "target"), CopyOutcome::kWritten);
+  EXPECT_EQ(folder_.tree(), (Tree{{"source", "new"}, {"target", "new"}, {staging_name(0), "a stranger's"}}));
+}
+
+TEST_F(WindowsFaults, AFolderIsKnownByWhateverPath) {
+  folder_.write("source", "new");
+  folder_.make_folder("Sub");
+  const FileSystem::Action action(*files_);
+  EXPECT_EQ(copy("source", "Sub\\target"), CopyOutcome::kWritten);
+  EXPECT_EQ(copy("source", "SUB\\target"), CopyOutcome::kUnchanged);
+  EXPECT_EQ(copy("source", "Sub\\target"), CopyOutcome::kUnchanged);
+}
+
+TEST_F(WindowsFaults, AWriteThatWritesNothingIsAFullDisk) {
+  folder_.write("source", "new");
+  answers.writes_nothing = true;
+  EXPECT_NE(reason_of_copy(), "");
+  answers.writes_nothing = false;
+  EXPECT_EQ(folder_.tree(), (Tree{{"source", "new"}}));
+}
+
+TEST_F(WindowsFaults, AReaderThatCannotBePlacedIsAnError) {
+  folder_.write("source", "new");
+  const auto reader = files_->open_file(folder_.path("source"));
+  answers.seek_error = ERROR_SEEK;
+  EXPECT_NE(reason_of([&] { reader->seek(1); }), "");
+}
+
+TEST_F(WindowsFaults, AnErrorThatTheSystemHasNoWordsForIsGivenByItsNumber) {
+  folder_.write("source", "new");
+  answers.open_error = [](DWORD, DWORD) { return DWORD{0x2BADBAD}; };
+  EXPECT_EQ(reason_of([this] { files_->read_file(folder_.path("source")); }), "error 45800365");
+}
+
+TEST_F(WindowsFaults, TheRoomOfAFolderThatIsNotThereIsNotKnown) {
+  EXPECT_TRUE(files_->free_room(folder_.path()));
+  EXPECT_FALSE(files_->free_room(folder_.path("nothing")));
+}
+
+TEST_F(WindowsFaults, AProcessThatHasEndedRunsNoMoreThoughSomebodyStillAsksForIt) {
+  const std::string name = staging_name(0);
+  EXPECT_FALSE(is_left_over(name));
+  answers.exit_code = 0;
+  EXPECT_TRUE(is_left_over(name));
+  answers.exit_code_error = ERROR_ACCESS_DENIED;
+  EXPECT_FALSE(is_left_over(name));
 }
 
 TEST_F(WindowsFaults, AFileFoundByItsShortFormKeepsItsLongName) {

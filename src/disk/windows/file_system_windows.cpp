@@ -139,8 +139,8 @@ std::vector<FolderEntry> WindowsFileSystem::entries(std::string_view folder) {
   WindowsListing listing(prefix, L"*");
   while (const auto* entry = listing.next()) {
     const std::string name = from_wide(entry->cFileName);
-    const auto attributes =
-        is_link(*entry) ? attributes_of(prefix + entry->cFileName) : entry->dwFileAttributes;
+    std::optional<DWORD> attributes = entry->dwFileAttributes;
+    if (is_link(*entry)) attributes = attributes_of(prefix + entry->cFileName);
     if (!attributes) {
       take_for_missing(std::string(folder).append("\\").append(name));
       continue;

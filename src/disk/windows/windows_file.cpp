@@ -47,10 +47,7 @@ bool process_runs(std::uint32_t number) {
 }
 
 WindowsHandle& WindowsHandle::operator=(WindowsHandle&& other) noexcept {
-  if (this != &other) {
-    close();
-    handle_ = other.release();
-  }
+  std::swap(handle_, other.handle_);
   return *this;
 }
 

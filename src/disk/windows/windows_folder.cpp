@@ -88,9 +88,12 @@ std::shared_ptr<WindowsFolder> WindowsFolders::open(const std::wstring& path) {
   if (resolved.empty()) return std::make_shared<WindowsFolder>(path, WindowsFolder::Memory::kFresh);
   const auto same = std::find_if(kept_.begin(), kept_.end(),
                                  [&resolved](const Kept& one) { return one.resolved == resolved; });
-  auto folder = same != kept_.end()
-                    ? same->folder
-                    : std::make_shared<WindowsFolder>(path, WindowsFolder::Memory::kRemembered);
+  std::shared_ptr<WindowsFolder> folder;
+  if (same != kept_.end()) {
+    folder = same->folder;
+  } else {
+    folder = std::make_shared<WindowsFolder>(path, WindowsFolder::Memory::kRemembered);
+  }
   kept_.push_front({path, resolved, folder});
   if (kept_.size() > kFoldersKept) kept_.pop_back();
   return folder;

@@ -140,7 +140,8 @@ void WindowsTarget::finish(Durability durability) {
 
 /// A name found by its short form, "LONGNA~1", is no other spelling and stays.
 bool WindowsTarget::spelled_otherwise() const {
-  return existing_ && existing_->name != name_ && same_name(from_wide(existing_->name), from_wide(name_));
+  if (!existing_ || existing_->name == name_) return false;
+  return same_name(from_wide(existing_->name), from_wide(name_));
 }
 
 void WindowsTarget::settle_spelling() const {
