@@ -84,7 +84,8 @@ std::string CleanUpSummary::sentence() const {
   if (careers > 0) text = counted(careers, "career save", "career saves") + " brought home to " + home;
   if (careers > 0 && deleted > 0) text += "; ";
   if (deleted > 0) text += counted(deleted, "loose file", "loose files") + " deleted";
-  return text.empty() ? "There was nothing to clean up" : text;
+  if (text.empty()) text = "There was nothing to clean up";
+  return text;
 }
 
 int careers_row(const GameTable& table) {
@@ -98,7 +99,8 @@ std::string careers_home_name(const GameTable& table) {
   const int row = careers_row(table);
   if (row == 0) return {};
   const std::string name = table.cell(row, GameTable::kFolder);
-  return name.empty() ? "Careers" : "Careers\\" + name;
+  if (name.empty()) return "Careers";
+  return "Careers\\" + name;
 }
 
 std::size_t count_career_saves(const GameFolder& game) {

@@ -71,15 +71,13 @@ class Installation {
   }
 
   void install_file(const std::string& source, const std::string& name) {
-    switch (use_of_set_file(name)) {
-      case SetFileUse::kCopied:
-        copier_.copy(source, game_.path(target_of_set_file(name)));
-        break;
-      case SetFileUse::kPatch:
-        patch(source);
-        break;
-      case SetFileUse::kStays:
-        ++summary_.kept;
+    const SetFileUse use = use_of_set_file(name);
+    if (use == SetFileUse::kCopied) {
+      copier_.copy(source, game_.path(target_of_set_file(name)));
+    } else if (use == SetFileUse::kPatch) {
+      patch(source);
+    } else {
+      ++summary_.kept;
     }
   }
 

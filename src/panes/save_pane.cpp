@@ -57,7 +57,11 @@ void SavePane::save() {
     } else {
       write_plane_set(desk_.files, path, plane_.G1);
     }
-    desk_.say(replaced ? quoted(name) + " was replaced" : "Saved as " + quoted(name));
+    if (replaced) {
+      desk_.say(quoted(name) + " was replaced");
+    } else {
+      desk_.say("Saved as " + quoted(name));
+    }
     say_spelling();
   } else {
     desk_.say("Nothing was saved: no name was given");

@@ -9,9 +9,11 @@
 #include "disk/dry_run_file_system.h"
 #include "disk/file_system.h"
 #include "support/faulty_file_system.h"
+#include "support/forwarding_file_system.h"
 #include "support/left_over.h"
 #include "support/recording_file_system.h"
 #include "support/temporary_folder.h"
+#include "support/text_reader.h"
 #include "support/tree_of.h"
 
 namespace vorlund {
@@ -478,6 +480,71 @@ TEST_P(FileSystemContract, ManyFoldersInOneActionWorkAlike) {
   EXPECT_EQ(names("Game").size(), 60U);
   EXPECT_EQ(read("Game\\File59"), "59");
   EXPECT_EQ(names("Group 59"), Names{"File"});
+}
+
+TEST_P(FileSystemContract, AReaderGoesOnWhereItIsPlaced) {
+  files().replace_file(folder_.path("File"), "0123456789", Durability::kCached);
+  const auto reader = files().open_file(folder_.path("file"));
+  std::string bytes(3, '?');
+  for (const std::uint64_t offset : {4U, 0U, 8U, 10U}) {
+    reader->seek(offset);
+    const std::size_t got = reader->read(bytes.data(), bytes.size());
+    EXPECT_EQ(bytes.substr(0, got), std::string("0123456789").substr(offset, 3));
+  }
+}
+
+/// Claims a length that it does not have.
+class ClaimingReader : public test::TextReader {
+ public:
+  explicit ClaimingReader(std::uint64_t size) : TextReader("few"), size_(size) {}
+  std::uint64_t size() const override { return size_; }
+
+ private:
+  std::uint64_t size_;
+};
+
+class ClaimingFileSystem : public test::ForwardingFileSystem {
+ public:
+  using ForwardingFileSystem::ForwardingFileSystem;
+  std::unique_ptr<FileReader> open_file(std::string_view) override {
+    return std::make_unique<ClaimingReader>(size);
+  }
+  std::uint64_t size = 0;
+};
+
+TEST(ReadFile, OfALengthThatNoMemoryHoldsIsAnErrorThatNamesTheFile) {
+  const auto platform = make_platform_file_system();
+  ClaimingFileSystem files(*platform);
+  EXPECT_EQ(files.read_file("file"), "few");
+  for (const std::uint64_t size : {std::uint64_t{1} << 62, std::uint64_t{1} << 63}) {
+    files.size = size;
+    try {
+      files.read_file("file");
+      ADD_FAILURE() << size;
+    } catch (const ActionError& error) {
+      EXPECT_EQ(error.path(), "file");
+      EXPECT_EQ(error.reason(), kOutOfMemory);
+    }
+  }
+}
+
+TEST(StagingNames, AreToldFromNamesThatOnlyLookAlike) {
+  for (const std::string& name :
+       {staging_name(0), staging_name(300), "~vorlund-w1-ff.bak"s, "~vorlund-pffffffff-0.bak"s}) {
+    EXPECT_TRUE(is_staging_name(name)) << name;
+    EXPECT_FALSE(is_left_over(name) && is_left_over(staging_name(0))) << name;
+  }
+  for (const char* name :
+       {"", "eaw.exe", "~vorlund-.bak", "~vorlund-p.bak", "~vorlund-x1-0.bak", "~vorlund-pz-0.bak",
+        "~vorlund-p1.bak", "~vorlund-p1-.bak", "~vorlund-p1-0", "~vorlund-p01-0.bak", "~vorlund-p1-00.bak",
+        "~vorlund-p1-0x.bak", "~vorlund-p1ffffffff-0.bak", "~VORLUND-p1-0.bak", "~vorlund-.ba",
+        "~vorlund-p1-0.bak.bak"}) {
+    EXPECT_FALSE(is_staging_name(name)) << name;
+    EXPECT_FALSE(is_left_over(name)) << name;
+    EXPECT_FALSE(is_staging_name_of_another(name)) << name;
+  }
+  EXPECT_FALSE(is_staging_name_of_another(staging_name(0)));
+  EXPECT_FALSE(is_left_over(staging_name(0)));
 }
 
 std::string name_of(const testing::TestParamInfo<std::tuple<Kind, Span>>& info) {

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <new>
 #include <stdexcept>
 
 #include "base/action_error.h"
@@ -46,6 +47,21 @@ TEST_F(PatchFileTest, WritingPastTheEndFillsTheGapWithZeros) {
   folder_.write("Planes.dat", "ab");
   patch_file(files_, path_, [](PatchedBytes& bytes) { bytes.put(4, "cd"); });
   EXPECT_EQ(folder_.read("Planes.dat"), "ab\0\0cd"s);
+}
+
+TEST_F(PatchFileTest, MemoryThatDoesNotSufficeIsAnErrorThatNamesTheFileAndChangesNothing) {
+  folder_.write("Planes.dat", "ab");
+  try {
+    patch_file(files_, path_, [](PatchedBytes& bytes) {
+      bytes.put(0, "x");
+      throw std::bad_alloc();
+    });
+    ADD_FAILURE() << "no error";
+  } catch (const ActionError& error) {
+    EXPECT_EQ(error.path(), path_);
+    EXPECT_EQ(error.reason(), kOutOfMemory);
+  }
+  EXPECT_EQ(folder_.read("Planes.dat"), "ab");
 }
 
 TEST_F(PatchFileTest, AnEmptyRunChangesNothing) {

@@ -27,7 +27,7 @@ using Names = std::vector<std::string>;
 using Tree = std::map<std::string, std::string>;
 
 constexpr int kFailures[] = {EIO, EMFILE, ENFILE, ENOMEM};
-constexpr int kMissing[] = {ENOENT, ENOTDIR, ENAMETOOLONG, ELOOP, EINVAL};
+constexpr int kMissing[] = {ENOENT, ENOTDIR, ENAMETOOLONG, ELOOP, EINVAL, EILSEQ};
 
 /// The parameter says whether the operations stand within one action.
 class PosixFaults : public testing::TestWithParam<bool> {
@@ -212,9 +212,70 @@ TEST_P(PosixFaults, ALeftOverThatABadDiskKeepsIsAnErrorAndOneThatMustStayIsNone)
     other->replace_file(path("Game\\new.dat"), "new", Durability::kCached);
     EXPECT_EQ(FailingCall::count(), 1);
   }
-  const FailingCall failing("unlinkat", test::left_over_name(), EIO);
-  EXPECT_THROW(files_->replace_file(path("Game\\new.dat"), "newer", Durability::kCached), ActionError);
+  for (const int error : {EIO, ENOMEM}) {
+    const FailingCall failing("unlinkat", test::left_over_name(), error);
+    EXPECT_THROW(
+        make_platform_file_system()->replace_file(path("Game\\new.dat"), "newer", Durability::kCached),
+        ActionError);
+  }
   EXPECT_EQ(folder_.read("Game/new.dat"), "new");
+}
+
+TEST_P(PosixFaults, AFolderThatCannotBeListedIsNotWrittenIn) {
+  const auto fresh = make_platform_file_system();  // within an action the names are known
+  for (const int error : {EIO, ENOMEM, EACCES, EPERM}) {
+    const FailingCall failing("getdents64", "Game", error);
+    EXPECT_THROW(fresh->replace_file(path("Game\\Planes.dat"), "new", Durability::kCached), ActionError)
+        << error;
+  }
+  EXPECT_EQ(folder_.read("Game/Planes.dat"), "planes");
+}
+
+/// Makes a file whose first half is a hole.
+void write_with_hole(const std::string& file, std::size_t size) {
+  const int descriptor = ::open(file.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0644);
+  const std::string bytes(size / 2, 'x');
+  EXPECT_EQ(::pwrite(descriptor, bytes.data(), bytes.size(), static_cast<off_t>(size / 2)),
+            static_cast<ssize_t>(bytes.size()));
+  ::close(descriptor);
+}
+
+TEST_P(PosixFaults, AFileWithHolesIsCopiedWholeWhereTheDiskCannotTellThem) {
+  constexpr std::size_t kSize = 4 << 20;
+  write_with_hole(folder_.path() + "/source", kSize);
+  for (const int error : {EINVAL, EOPNOTSUPP}) {
+    const FailingCall failing("lseek", "/source", error);
+    EXPECT_EQ(copy("source", ("Game\\" + std::to_string(error)).c_str()), CopyOutcome::kWritten);
+    EXPECT_GT(FailingCall::count(), 0);
+    EXPECT_TRUE(folder_.read("Game/" + std::to_string(error)) ==
+                std::string(kSize / 2, '\0') + std::string(kSize / 2, 'x'));
+  }
+  const FailingCall failing("lseek", ".bak", EIO);
+  EXPECT_THROW(copy("source", "Game\\new.dat"), ActionError);
+  EXPECT_FALSE(folder_.has("Game/new.dat"));
+}
+
+TEST_P(PosixFaults, AReaderThatCannotBePlacedIsAnError) {
+  const auto reader = files_->open_file(path("Game\\Planes.dat"));
+  reader->seek(2);
+  std::string bytes(4, '?');
+  EXPECT_EQ(reader->read(bytes.data(), bytes.size()), 4U);
+  EXPECT_EQ(bytes, "anes");
+  const FailingCall failing("lseek", "Planes.dat", EIO);
+  EXPECT_THROW(reader->seek(0), ActionError);
+}
+
+TEST_P(PosixFaults, AFileWhoseFolderMayNotBeChangedIsForeseenToStay) {
+  EXPECT_NO_THROW(files_->foresee(Change::kRemove, path("Game\\Planes.dat")));
+  const FailingCall failing("faccessat", ".", EACCES);
+  EXPECT_THROW(files_->foresee(Change::kRemove, path("Game\\Planes.dat")), ActionError);
+}
+
+TEST_P(PosixFaults, RoomThatTheDiskDoesNotTellIsNotKnown) {
+  EXPECT_EQ(files_->free_room(path("Game")), 0U);
+  EXPECT_FALSE(files_->free_room(path("nothing")));
+  const FailingCall failing("fstatvfs", "Game", ENOSYS);
+  EXPECT_FALSE(files_->free_room(path("Game")));
 }
 
 TEST_P(PosixFaults, AnErrorSaysWhatFailedAlsoOnceTheFileIsInItsPlace) {

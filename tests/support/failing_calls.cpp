@@ -3,6 +3,7 @@
 
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <sys/statvfs.h>
 #include <sys/syscall.h>
 #include <unistd.h>
 
@@ -101,6 +102,22 @@ int fstatat(int folder, const char* name, struct stat* status, int flags) noexce
 
 int fstat(int descriptor, struct stat* status) noexcept {
   return look(descriptor, "", status, AT_EMPTY_PATH);
+}
+
+int faccessat(int folder, const char* name, int mode, int flags) noexcept {
+  return fails("faccessat", name) ? -1
+                                  : static_cast<int>(::syscall(SYS_faccessat2, folder, name, mode, flags));
+}
+
+int fstatvfs(int descriptor, struct statvfs* status) noexcept {
+  if (fails("fstatvfs", path_of(descriptor))) return -1;
+  *status = {};
+  status->f_frsize = 1;
+  return 0;
+}
+
+off_t lseek(int descriptor, off_t offset, int whence) noexcept {
+  return fails("lseek", path_of(descriptor)) ? -1 : ::syscall(SYS_lseek, descriptor, offset, whence);
 }
 
 int unlinkat(int folder, const char* name, int flags) noexcept {
