@@ -159,8 +159,10 @@ void WindowsTarget::settle_spelling() const {
   // Where a rename that changes nothing but case is passed over, as by Wine, the file takes a step over a
   // name of this process's own. It holds the source's bytes by then, so a crash there loses nothing.
   std::wstring step;
-  for (unsigned attempt = 0; step.empty() || fresh.find(step); ++attempt)
-    step = to_wide(staging_name(attempt));
+  unsigned attempt = 0;
+  do {
+    step = to_wide(staging_name(attempt++));
+  } while (fresh.find(step));
   step.insert(0, folder_);
   if (!move(spelled, step)) fail(kRename);
   if (!move(step, long_path_)) {
