@@ -116,9 +116,26 @@ void MainWindow::add_views() {
   add_pane(std::make_unique<PossibleSkinsView>(*form_, perform, this), form_->possible_skins.Frame4);
   add_pane(std::make_unique<LoadPaneView>(*form_, perform, this), form_->load_pane.Frame2);
   add_pane(std::make_unique<SavePaneView>(*form_, perform, this), form_->save_pane.SaveFrame);
-  add_pane(std::make_unique<ContentsView>(*form_, perform, this), form_->contents.ContentsFrame);
   add_pane(std::make_unique<MenuEditorView>(*form_, perform, this), form_->menu_editor.PMenFrame);
-  add_pane(std::make_unique<HelpView>(*form_, perform, this), form_->help.HelpFrame);
+  add_late_pane<ContentsView>(form_->contents.ContentsFrame);
+  add_late_pane<HelpView>(form_->help.HelpFrame);
+}
+
+template <class View>
+void MainWindow::add_late_pane(const Frame& shown) {
+  late_panes_.push_back({&shown, [this] {
+                           return std::make_unique<View>(
+                               *form_, [this](const std::function<void()>& handler) { perform(handler); },
+                               this);
+                         }});
+}
+
+void MainWindow::make_late_panes() {
+  for (LatePane& late : late_panes_) {
+    if (!late.make || !late.frame->visible) continue;
+    views_.push_back(std::exchange(late.make, nullptr)());
+    frames_.emplace_back(views_.back().get(), late.frame);
+  }
 }
 
 void MainWindow::add_keys() {
@@ -247,6 +264,7 @@ void MainWindow::apply() {
   help_->apply(form_->help.HelpLabel);
   place_status_bar();
   place_panes();
+  make_late_panes();
   for (const auto& view : views_) view->apply();
   follow_panes();
   menu_->show_whether_covered(table_is_covered(*form_));

@@ -60,6 +60,10 @@ class MainWindow : public QWidget, private Status {
 
   void add_status_bar();
   void add_views();
+  /// The pane's widgets are made when it is shown for the first time: they would cost start-up and memory.
+  template <class View>
+  void add_late_pane(const Frame& shown);
+  void make_late_panes();
   void add_keys();
   void place_panes();
   void apply();
@@ -78,6 +82,11 @@ class MainWindow : public QWidget, private Status {
   PaneView* plane_view_ = nullptr;
   PaneView* game_view_ = nullptr;
   std::vector<std::pair<PaneView*, const Frame*>> frames_;  ///< panes, each with its data
+  struct LatePane {
+    const Frame* frame;
+    std::function<std::unique_ptr<PaneView>()> make;  ///< empty once it was made
+  };
+  std::vector<LatePane> late_panes_;
   PaneLayout layout_;
   std::vector<int> shown_order_;
   FocusKeeper focus_{*this};
