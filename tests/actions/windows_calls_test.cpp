@@ -1,6 +1,5 @@
-// The calls that each action makes to Windows fail one by one, the disk is cut off at each of them, and the
-// program is ended at some: no file may be left half written, no career save may be lost, and the next run
-// makes it good.
+// The calls that each action makes to Windows fail one by one, and the program is ended at each of them: no
+// file may be left half written, no career save may be lost, and the next run makes it good.
 #include <gtest/gtest.h>
 
 #include <algorithm>
