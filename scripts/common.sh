@@ -7,6 +7,9 @@ jobs=$(nproc)
 # What any build of the program and its tools needs on Debian 12; fonts for the window.
 build_packages=(cmake ninja-build g++ googletest qt6-base-dev libgl-dev fonts-dejavu-core)
 
+# What the tests need besides.
+test_packages=(btrfs-progs e2fsprogs locales mount strace xfsprogs)
+
 say() {
   printf '\n== %s\n' "$*"
 }
