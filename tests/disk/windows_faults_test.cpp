@@ -377,20 +377,16 @@ TEST_F(WindowsFaults, WithoutACurrentFolderThereIsAnError) {
   EXPECT_FALSE(files_->FileExists("eaw.exe"));
 }
 
-TEST_F(WindowsFaults, AReplacedFileIsSpelledAnewWhereThatIsDoneAtOnce) {
+TEST_F(WindowsFaults, ASpellingIsTakenWhereReplacingOrRenamingBringsIt) {
   folder_.write("source", "new");
-  folder_.write("TARGET", "old");
-  answers.replaces_case = true;
-  EXPECT_EQ(copy("source", "target"), CopyOutcome::kWritten);
-  EXPECT_EQ(folder_.tree(), (Tree{{"source", "new"}, {"target", "new"}}));
-}
-
-TEST_F(WindowsFaults, ARenameThatChangesCaseAloneIsTakenWhereItIsDone) {
-  folder_.write("source", "new");
-  folder_.write("TARGET", "old");
-  answers.renames_case = true;
-  EXPECT_EQ(copy("source", "target"), CopyOutcome::kWritten);
-  EXPECT_EQ(folder_.tree(), (Tree{{"source", "new"}, {"target", "new"}}));
+  for (bool Answers::*way : {&Answers::replaces_case, &Answers::renames_case}) {
+    folder_.write("TARGET", "old");
+    answers.*way = true;
+    EXPECT_EQ(copy("source", "target"), CopyOutcome::kWritten);
+    EXPECT_EQ(folder_.tree(), (Tree{{"source", "new"}, {"target", "new"}}));
+    answers.*way = false;
+    files_->remove_file(folder_.path("target"));
+  }
 }
 
 TEST_F(WindowsFaults, AStepOverANameOfItsOwnLeavesTheOneThatStandsThereAlone) {
