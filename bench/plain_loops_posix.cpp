@@ -55,6 +55,22 @@ void for_each_file(const fs::path& folder, const std::function<void(int folder, 
   ::closedir(entries);
 }
 
+/// Counts the names in an open folder, which it closes, and below.
+std::size_t list_below(int descriptor) {
+  DIR* const entries = ::fdopendir(descriptor);
+  if (entries == nullptr) throw std::runtime_error("fdopendir failed");
+  std::size_t count = 0;
+  while (const dirent* entry = ::readdir(entries)) {
+    if (std::strcmp(entry->d_name, ".") == 0 || std::strcmp(entry->d_name, "..") == 0) continue;
+    ++count;
+    if (entry->d_type != DT_DIR) continue;
+    count += list_below(
+        worked(::openat(::dirfd(entries), entry->d_name, O_RDONLY | O_DIRECTORY | O_CLOEXEC), "openat"));
+  }
+  ::closedir(entries);
+  return count;
+}
+
 }  // namespace
 
 void copy_plainly(const fs::path& from, const fs::path& to, const fs::path& staging) {
@@ -95,6 +111,10 @@ void copy_by_command(const fs::path& from, const fs::path& to) {
       ::waitpid(child, &result, 0) < 0 || result != 0) {
     throw std::runtime_error("cp failed");
   }
+}
+
+std::size_t list_plainly(const fs::path& folder) {
+  return list_below(open_folder(folder));
 }
 
 void settle(const fs::path& folder) {

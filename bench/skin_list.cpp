@@ -1,5 +1,5 @@
-// Measures building the skin list against `find` over the same tree, its growth, and matching a flight model:
-// skin_list_bench GROWTH-FILE [Google Benchmark options].
+// Measures building the skin list against a plain loop and `find` over the same tree, its growth, and
+// matching a flight model: skin_list_bench GROWTH-FILE [Google Benchmark options].
 #include <benchmark/benchmark.h>
 
 #include <cstdio>
@@ -12,6 +12,7 @@
 #include "aircraft/skin_list.h"
 #include "measure.h"
 #include "panes/form1.h"
+#include "plain_loops.h"
 #include "skin_store.h"
 
 namespace {
@@ -21,8 +22,10 @@ using namespace vorlund::bench;
 namespace fs = std::filesystem;
 
 constexpr int kRounds = 5;
+constexpr double kMostOfPlain = 1.15;
 
 std::string growth_file;
+bool missed = false;
 
 /// The window object over the real disk.
 struct Surroundings {
@@ -45,22 +48,29 @@ void run_find(const SkinStore& store) {
   if (std::system(command.c_str()) != 0) std::abort();
 }
 
-/// The list and `find` take turns, so that both meet the same state of the machine.
-void skin_list_against_find(benchmark::State& state) {
+/// The list, a plain loop over the names of the tree and `find` take turns, so that all meet the same state
+/// of the machine.
+void skin_list_against_readers(benchmark::State& state) {
   const SkinStore store(static_cast<int>(state.range(0)));
   Surroundings surroundings(store);
   std::vector<double> list;
+  std::vector<double> plain;
   std::vector<double> find;
   run_find(store);
   for ([[maybe_unused]] auto round : state) {
     list.push_back(seconds_of([&] { make_list(surroundings); }));
+    plain.push_back(seconds_of([&] { benchmark::DoNotOptimize(list_plainly(store.store())); }));
     find.push_back(seconds_of([&] { run_find(store); }));
     state.SetIterationTime(list.back());
   }
+  state.counters["plain_ms"] = 1000 * median(plain);
+  const double of_plain = median_ratio(list, plain);
+  missed = missed || of_plain > kMostOfPlain;
+  state.counters["of_plain"] = of_plain;
   state.counters["find_ms"] = 1000 * median(find);
   state.counters["of_find"] = median_ratio(list, find);
 }
-BENCHMARK(skin_list_against_find)
+BENCHMARK(skin_list_against_readers)
     ->Arg(10000)
     ->Iterations(2 * kRounds + 1)
     ->UseManualTime()
@@ -113,5 +123,6 @@ int main(int argc, char** argv) {
   }
   growth_file = argv[1];
   benchmark::RunSpecifiedBenchmarks();
-  return 0;
+  if (missed) std::printf("the skin list took more than %.2f of the plain loop\n", kMostOfPlain);
+  return missed ? 1 : 0;
 }
