@@ -144,6 +144,8 @@ void GridView::share_columns(std::vector<int> short_columns) {
   sharing_ = Sharing::kOn;
   short_columns_ = std::move(short_columns);
   horizontalHeader()->setStretchLastSection(false);
+  // The style's own least width follows the widest letter of the font: more than a short column may need.
+  horizontalHeader()->setMinimumSectionSize(kPadding);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   connect(horizontalHeader(), &QHeaderView::sectionResized, this, [this] {
     if (applying_) return;

@@ -22,7 +22,7 @@ namespace {
 namespace fs = std::filesystem;
 
 // Made absolute before a test changes the current folder, and with it, on Windows, the current drive.
-const fs::path kMakeSampleGame = fs::absolute(MAKE_SAMPLE_GAME);
+const fs::path kMakeSampleGame = fs::absolute(u8"" MAKE_SAMPLE_GAME);
 constexpr char kFlightModels[] = "Standard 2.1";
 constexpr char kGameSetName[] = "Evening, game";
 constexpr char kPlaneSetName[] = "Soir\u00E9e, Flugzeuge 1944";

@@ -12,16 +12,12 @@
 
 namespace vorlund::test {
 
-namespace {
-
 void enter_folder(std::string path) {
 #ifndef _WIN32
   std::replace(path.begin(), path.end(), '\\', '/');
 #endif
   std::filesystem::current_path(std::filesystem::path(std::u8string(path.begin(), path.end())));
 }
-
-}  // namespace
 
 ProgramWindow::~ProgramWindow() {
   window_.reset();

@@ -15,6 +15,9 @@
 
 namespace vorlund::test {
 
+/// Makes a folder the current one.
+void enter_folder(std::string path);
+
 /// Starts the program's window inside `folder`, once the test has filled it. What a user could not reach with
 /// the mouse (hidden, covered, off the window) fails the test.
 class ProgramWindow : public ::testing::Test {

@@ -36,7 +36,7 @@ class Working : public testing::Test {
     }
     folder_.write("~Vorlund/CurrentGameSet.txt", "Folder group\tFolder name\r\nSky\tDusk\r\n");
     folder_.write("Savedata/Default1.msn", "mission");
-    std::filesystem::current_path(folder_.path());
+    enter_folder(folder_.path());
     window_ = std::make_unique<MainWindow>(files_, [](const QString&) { FAIL(); });
     window_->start();
     window_->resize(1200, 700);
