@@ -516,7 +516,11 @@ TEST(ReadFile, OfALengthThatNoMemoryHoldsIsAnErrorThatNamesTheFile) {
   const auto platform = make_platform_file_system();
   ClaimingFileSystem files(*platform);
   EXPECT_EQ(files.read_file("file"), "few");
-  for (const std::uint64_t size : {std::uint64_t{1} << 62, std::uint64_t{1} << 63}) {
+  std::vector<std::uint64_t> lengths = {std::uint64_t{1} << 63};  // more than a text can be long
+#ifndef __SANITIZE_ADDRESS__
+  lengths.push_back(std::uint64_t{1} << 62);  // the sanitizer ends the program that asks for so much
+#endif
+  for (const std::uint64_t size : lengths) {
     files.size = size;
     try {
       files.read_file("file");
