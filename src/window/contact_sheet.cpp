@@ -7,6 +7,7 @@
 #include <QPainter>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
+#include <QTextOption>
 #include <QToolTip>
 
 #include "base/action_error.h"
@@ -74,7 +75,9 @@ class TileDelegate : public QStyledItemDelegate {
   /// The name alone, as large as a picture.
   static void paint_plate(QPainter* painter, const QRect& room, const QModelIndex& row) {
     painter->setClipRect(room);
-    painter->drawText(room, Qt::AlignCenter | Qt::TextWrapAnywhere | Qt::TextWordWrap, row.data().toString());
+    QTextOption words(Qt::AlignCenter);
+    words.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    painter->drawText(QRectF(room), row.data().toString(), words);
     painter->setClipping(false);
   }
 
