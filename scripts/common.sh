@@ -88,8 +88,9 @@ build() {
   cmake --build "$root/build/$preset" --parallel "$jobs" ${*:+--target "$@"}
 }
 
-# test_in_wine PRESET: runs the test programs of build/PRESET side by side; fails where one does, and prints what it said.
-# Each program's output goes into a file: through a pipe the tests would wait for Wine's own servers to end.
+# test_in_wine PRESET: runs the test programs of build/PRESET side by side, in memory where there is such a disk; fails
+# where one does, and prints what it said. Each program's output goes into a file: through a pipe the tests would wait
+# for Wine's own servers to end.
 test_in_wine() {
   prepare_wine
   [ ! -d /dev/shm ] || wine reg add 'HKCU\Environment' /v TMP /d 'Z:\dev\shm' /f </dev/null >/dev/null
