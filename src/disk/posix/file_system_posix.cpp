@@ -61,6 +61,8 @@ class PosixFileSystem final : public FileSystem {
   template <typename Attempt>
   bool with_spelling(Place& place, Attempt attempt);
 
+  /// What is in the place, of either kind; false, with errno, on failure.
+  bool look(Place& place, struct stat& status, int flags = 0);
   /// What is at the path, of either kind. False where nothing is; where there is no right to look as well,
   /// and that is noted. Otherwise a failure is an error.
   bool find(std::string_view path, EntryKind kind, struct stat& status);
@@ -105,10 +107,14 @@ bool PosixFileSystem::with_spelling(Place& place, Attempt attempt) {
   return attempt(place.folder->descriptor(), place.name.c_str());
 }
 
+bool PosixFileSystem::look(Place& place, struct stat& status, int flags) {
+  return with_spelling(
+      place, [&status, flags](int folder, const char* name) { return look_at(folder, name, status, flags); });
+}
+
 bool PosixFileSystem::find(std::string_view path, EntryKind kind, struct stat& status) {
   Place place = place_of(path, kind);
-  const bool found =
-      with_spelling(place, [&status](int folder, const char* name) { return look_at(folder, name, status); });
+  const bool found = look(place, status);
   if (!found) take_for_missing(path);
   return found;
 }
@@ -144,8 +150,7 @@ bool PosixFileSystem::FolderExists(std::string_view path) {
 bool PosixFileSystem::is_there(std::string_view path) {
   struct stat status {};
   Place place = place_of(path, EntryKind::kFile);
-  const bool found =
-      with_spelling(place, [&status](int folder, const char* name) { return look_at(folder, name, status); });
+  const bool found = look(place, status);
   if (!found && !says_missing(errno)) throw_system_error("look for", path);
   return found && S_ISREG(status.st_mode);
 }
@@ -242,31 +247,8 @@ PosixSource PosixFileSystem::open_source(std::string_view path) {
   return source;
 }
 
-/// Reads an open file block by block.
-class PosixReader final : public FileReader {
- public:
-  PosixReader(PosixSource source, std::string_view path) : source_(std::move(source)), path_(path) {}
-
-  [[nodiscard]] std::uint64_t size() const override { return source_.size(); }
-
-  std::size_t read(char* bytes, std::size_t size) override {
-    const ssize_t got = read_up_to(source_.handle.descriptor(), bytes, size);
-    if (got < 0) throw_system_error("read", path_);
-    return static_cast<std::size_t>(got);
-  }
-
-  void seek(std::uint64_t offset) override {
-    if (::lseek(source_.handle.descriptor(), static_cast<off_t>(offset), SEEK_SET) < 0)
-      throw_system_error("read", path_);
-  }
-
- private:
-  PosixSource source_;
-  std::string path_;
-};
-
 std::unique_ptr<FileReader> PosixFileSystem::open_file(std::string_view path) {
-  return std::make_unique<PosixReader>(open_source(path), path);
+  return reader_of(open_source(path));
 }
 
 PosixTarget PosixFileSystem::open_target(std::string_view path, Spelling spelling) {
@@ -318,10 +300,7 @@ CopyForecast PosixFileSystem::foresee_copy(std::string_view source_path, std::st
 PosixFileSystem::Place PosixFileSystem::removable(std::string_view path) {
   Place place = place_of(path, EntryKind::kFile);
   struct stat status {};
-  const bool found = with_spelling(place, [&status](int folder, const char* name) {
-    return look_at(folder, name, status, AT_SYMLINK_NOFOLLOW);
-  });
-  if (!found) throw_system_error(kDelete, path);
+  if (!look(place, status, AT_SYMLINK_NOFOLLOW)) throw_system_error(kDelete, path);
   refuse_read_only(status, kDelete, path);
   if (S_ISDIR(status.st_mode)) throw ActionError(kDelete, path, kIsFolder);
   return place;
@@ -353,9 +332,7 @@ void PosixFileSystem::remove_file(std::string_view path) {
 void PosixFileSystem::start_program(std::string_view path, std::string_view folder) {
   Place program = place_of(path, EntryKind::kFile);
   struct stat status {};
-  const bool found = with_spelling(
-      program, [&status](int parent, const char* name) { return look_at(parent, name, status); });
-  if (!found) throw_system_error("start", path);
+  if (!look(program, status)) throw_system_error("start", path);
   const std::string beginning = read_file(path, kProgramBeginning);
   std::string spelled = join_path(program.folder->path(), program.name);
   if (spelled.front() != '/') spelled = join_path(current_folder(), spelled);

@@ -33,7 +33,33 @@ ssize_t read_at(int descriptor, char* bytes, std::size_t size, std::uint64_t off
   return static_cast<ssize_t>(done);
 }
 
+class PosixReader final : public FileReader {
+ public:
+  explicit PosixReader(PosixSource source) : source_(std::move(source)), path_(source_.path) {}
+
+  [[nodiscard]] std::uint64_t size() const override { return source_.size(); }
+
+  std::size_t read(char* bytes, std::size_t size) override {
+    const ssize_t got = read_up_to(source_.handle.descriptor(), bytes, size);
+    if (got < 0) throw_system_error("read", path_);
+    return static_cast<std::size_t>(got);
+  }
+
+  void seek(std::uint64_t offset) override {
+    if (::lseek(source_.handle.descriptor(), static_cast<off_t>(offset), SEEK_SET) < 0)
+      throw_system_error("read", path_);
+  }
+
+ private:
+  PosixSource source_;
+  std::string path_;  ///< that of the source may live less long
+};
+
 }  // namespace
+
+std::unique_ptr<FileReader> reader_of(PosixSource source) {
+  return std::make_unique<PosixReader>(std::move(source));
+}
 
 char* PageBlock::bytes(std::size_t size) {
   if (!bytes_) bytes_.reset(new (kPage) char[size]);

@@ -11,6 +11,7 @@
 #include <string_view>
 #include <utility>
 
+#include "disk/file_system.h"
 #include "posix/posix_file.h"
 #include "pulse.h"
 
@@ -24,6 +25,9 @@ struct PosixSource {
 
   [[nodiscard]] std::uint64_t size() const { return static_cast<std::uint64_t>(status.st_size); }
 };
+
+/// Reads the source block by block.
+std::unique_ptr<FileReader> reader_of(PosixSource source);
 
 /// Memory that begins at a page: the kernel copies faster into such.
 class PageBlock {
