@@ -50,15 +50,18 @@ bool take_staging_name(std::string_view name, char& platform, std::uint32_t& pro
 
 }  // namespace
 
-std::string FileSystem::read_file(std::string_view path, std::uint64_t limit) try {
-  const std::unique_ptr<FileReader> file = open_file(path);
+std::string FileSystem::read_file(std::string_view path, std::uint64_t limit) {
+  return read_rest(*open_file(path), path, limit);
+}
+
+std::string read_rest(FileReader& file, std::string_view path, std::uint64_t limit) try {
   std::string bytes;
   // One byte more than the size is asked for, so that the end of the file is met in the first read.
-  std::uint64_t step = std::min(limit, file->size() + 1);
+  std::uint64_t step = std::min(limit, file.size() + 1);
   while (bytes.size() < limit) {
     const std::size_t done = bytes.size();
     bytes.resize(done + static_cast<std::size_t>(std::min(step, limit - done)));
-    const std::size_t got = file->read(bytes.data() + done, bytes.size() - done);
+    const std::size_t got = file.read(bytes.data() + done, bytes.size() - done);
     const bool ended = got < bytes.size() - done;
     bytes.resize(done + got);
     if (ended) break;

@@ -15,7 +15,10 @@ PictureFile load_picture(FileSystem& files, std::string_view path) {
   const std::unique_ptr<FileReader> file = files.open_file(path);
   if (file->size() > kLargest) return {};
   std::string bytes = thinned_bitmap(*file);
-  if (bytes.empty()) bytes = files.read_file(path);
+  if (bytes.empty()) {
+    file->seek(0);
+    bytes = read_rest(*file, path);
+  }
   return {std::string(path), std::make_shared<const std::string>(std::move(bytes))};
 }
 

@@ -64,6 +64,13 @@ class FileReader {
   virtual void seek(std::uint64_t offset) = 0;
 };
 
+/// No limit of how much is read.
+inline constexpr std::uint64_t kNoLimit = std::numeric_limits<std::uint64_t>::max();
+
+/// The next `limit` bytes of an open file, or all the rest of it when that is shorter. More than fits into
+/// memory is an error, which names `path`.
+std::string read_rest(FileReader& file, std::string_view path, std::uint64_t limit = kNoLimit);
+
 /// The file operations of the program.
 ///
 /// Paths are UTF-8 texts with backslashes, formed by plain concatenation; doubled backslashes are accepted
@@ -79,8 +86,6 @@ class FileReader {
 /// a folder.
 class FileSystem {
  public:
-  static constexpr std::uint64_t kNoLimit = std::numeric_limits<std::uint64_t>::max();
-
   virtual ~FileSystem() = default;
 
   /// The process's current folder, without a trailing separator except for a root ("C:\" or "/").
