@@ -7,9 +7,6 @@ namespace vorlund {
 
 namespace {
 
-constexpr std::array<const char*, 3> kMenuNames = {"British menu, picplnb.mnu", "American menu, picplna.mnu",
-                                                   "German menu, picplng.mnu"};
-
 /// The value of each byte in decimal, a blank before each.
 std::string byte_numbers(std::string_view bytes) {
   std::string numbers;

@@ -24,11 +24,11 @@ bool has_a_use(Qt::MouseButton button) {
   return button == Qt::LeftButton || button == Qt::RightButton || button == Qt::MiddleButton;
 }
 
+}  // namespace
+
 bool activates(const QKeyEvent& event) {
   return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter || event.key() == Qt::Key_Space;
 }
-
-}  // namespace
 
 MouseEvent to_model(Qt::MouseButton button, Qt::KeyboardModifiers modifiers, const QPointF& position) {
   MouseEvent event;

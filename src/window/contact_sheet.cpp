@@ -109,9 +109,7 @@ void ContactSheet::set_up() {
   setFlow(LeftToRight);
   setWrapping(true);
   setResizeMode(Adjust);
-  setFrameShape(QFrame::NoFrame);
-  setStyleSheet("QListView { background: transparent; border: none; }");
-  viewport()->setCursor(Qt::PointingHandCursor);
+  stand_on_picture();
   decoding_.setSingleShot(true);
   connect(&decoding_, &QTimer::timeout, this, [this] { decode_some(); });
   share_width();

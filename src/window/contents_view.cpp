@@ -1,16 +1,16 @@
 // Declares the controls of the contents pane and lays them out.
-#include "window/contents_view.h"
-
+#include <QAbstractTableModel>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QKeyEvent>
-#include <QLineEdit>
 #include <QShortcut>
+#include <QTableView>
 #include <algorithm>
 
 #include "window/entry_delegate.h"
 #include "window/row_table.h"
 #include "window/theme.h"
+#include "window/views.h"
 
 namespace vorlund {
 
@@ -53,7 +53,39 @@ QVariant colour_of(const ContentsLine& line, int column) {
   return settled ? theme::kQuietText : theme::kAccent;
 }
 
-}  // namespace
+/// The lines of the pane as a Qt model; nothing is copied.
+class ContentsModel : public QAbstractTableModel {
+ public:
+  explicit ContentsModel(const ContentsPane& pane) : pane_(pane) {}
+
+  /// Takes over other lines, or another order.
+  void refresh();
+
+  [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+  [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
+  [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+  [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+
+ private:
+  const ContentsPane& pane_;
+  int generation_ = -1;
+  int rows_ = 0;
+};
+
+/// View of ContentsPane.
+class ContentsView : public PaneView {
+ public:
+  ContentsView(Form1& form, const Perform& perform, QWidget* parent);
+
+ private:
+  QTableView* make_table();
+  QWidget* make_filter();
+  void follow_lines();
+
+  ContentsModel model_;
+  QTableView* table_ = nullptr;
+  bool following_ = false;
+};
 
 void ContentsModel::refresh() {
   if (generation_ == pane_.generation()) return;
@@ -135,18 +167,11 @@ ContentsView::ContentsView(Form1& form, const Perform& perform, QWidget* parent)
 }
 
 QWidget* ContentsView::make_filter() {
-  auto* filter = new QLineEdit(frame_);
-  filter->setObjectName("ContentsFilter");
-  filter->setAccessibleName("Show only lines with these words");
+  auto* filter = text_box("ContentsFilter", "Show only lines with these words", form_.contents.ContentsFilter,
+                          [this](const std::string& typed) { run(&Form1::ContentsFilter_Change, typed); });
   filter->setPlaceholderText("Type words to show only the lines that hold them");
   filter->setClearButtonEnabled(true);
   filter->setToolTip("Shows only the lines that hold these words, whatever their case and accents");
-  QObject::connect(filter, &QLineEdit::textEdited, frame_,
-                   [this](const QString& typed) { run(&Form1::ContentsFilter_Change, typed.toStdString()); });
-  also([filter, this] {
-    const QString shown = QString::fromStdString(form_.contents.ContentsFilter.text);
-    if (filter->text() != shown) filter->setText(shown);
-  });
   return filter;
 }
 
@@ -195,6 +220,12 @@ void ContentsView::follow_lines() {
       static_cast<int>(form_.contents.sorted_by()),
       form_.contents.is_descending() ? Qt::DescendingOrder : Qt::AscendingOrder);
   following_ = false;
+}
+
+}  // namespace
+
+std::unique_ptr<PaneView> contents_view(Form1& form, const Perform& perform, QWidget* parent) {
+  return std::make_unique<ContentsView>(form, perform, parent);
 }
 
 }  // namespace vorlund

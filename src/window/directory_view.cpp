@@ -1,13 +1,28 @@
 // Declares the controls that confirm the game directory and lays them out.
-#include "window/directory_view.h"
-
 #include <QVBoxLayout>
 #include <algorithm>
+#include <string>
+#include <vector>
 
 #include "window/plate.h"
 #include "window/theme.h"
+#include "window/views.h"
 
 namespace vorlund {
+
+namespace {
+
+/// View of GameDirectory: the path, the folder tree around it, and the label that confirms it.
+class DirectoryView : public PaneView {
+ public:
+  DirectoryView(Form1& form, const Perform& perform, QWidget* parent);
+  void apply() override;
+
+ private:
+  QWidget* parent_;
+  QWidget* panel_;
+  std::vector<std::string> folders_;  ///< ".." and the names
+};
 
 DirectoryView::DirectoryView(Form1& form, const Perform& perform, QWidget* parent)
     : PaneView(form, perform), parent_(parent), panel_(new Plate(parent)) {
@@ -51,6 +66,12 @@ void DirectoryView::apply() {
   const int height = std::min(360, parent_->height() - 140);
   panel_->setGeometry(parent_->width() - width - 40, 100, width, height);
   panel_->setVisible(form_.desk.directory.Dir6.visible || form_.desk.directory.Label17.visible);
+}
+
+}  // namespace
+
+std::unique_ptr<PaneView> directory_view(Form1& form, const Perform& perform, QWidget* parent) {
+  return std::make_unique<DirectoryView>(form, perform, parent);
 }
 
 }  // namespace vorlund

@@ -4,11 +4,11 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QPainter>
 #include <QStyle>
 #include <algorithm>
 #include <numeric>
 
+#include "window/action_label.h"
 #include "window/entry_delegate.h"
 #include "window/theme.h"
 
@@ -222,11 +222,7 @@ void GridView::share_room() {
 
 void GridView::paintEvent(QPaintEvent* event) {
   RowTable::paintEvent(event);
-  const QString words = empty_words();
-  if (words.isEmpty()) return;
-  QPainter painter(viewport());
-  painter.setPen(theme::kQuietText);
-  painter.drawText(viewport()->rect(), Qt::AlignCenter | Qt::TextWordWrap, words);
+  theme::draw_empty_words(*viewport(), empty_words());
 }
 
 QString GridView::empty_words() const {
@@ -259,10 +255,8 @@ void GridView::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void GridView::keyPressEvent(QKeyEvent* event) {
-  const bool activates =
-      event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter || event->key() == Qt::Key_Space;
   const QModelIndex before = currentIndex();
-  if (activates) {
+  if (activates(*event)) {
     if (before.isValid() && on_click) on_click(model_.grid_row(before.row()), before.column());
     return;
   }

@@ -1,6 +1,4 @@
 // Places the group labels in columns and paints each on a plate.
-#include "window/group_labels_view.h"
-
 #include <QPainter>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
@@ -8,6 +6,7 @@
 
 #include "window/entry_model.h"
 #include "window/theme.h"
+#include "window/views.h"
 
 namespace vorlund {
 
@@ -55,7 +54,18 @@ int labels_in_column(const std::vector<Label>& labels) {
   return static_cast<int>(next - labels.begin());
 }
 
-}  // namespace
+/// View of the label array `Label1`.
+class GroupLabelsView : public PaneView {
+ public:
+  GroupLabelsView(Form1& form, const Perform& perform, QWidget* parent);
+
+  void apply() override;
+
+ private:
+  QWidget* parent_;
+  ListView* labels_;
+  PaneMode mode_ = PaneMode::kAircraftSet;
+};
 
 GroupLabelsView::GroupLabelsView(Form1& form, const Perform& perform, QWidget* parent)
     : PaneView(form, perform), parent_(parent) {
@@ -68,11 +78,9 @@ GroupLabelsView::GroupLabelsView(Form1& form, const Perform& perform, QWidget* p
   labels_->setFlow(QListView::TopToBottom);
   labels_->setWrapping(true);
   labels_->setResizeMode(QListView::Adjust);
-  labels_->setFrameShape(QFrame::NoFrame);
+  labels_->stand_on_picture();
   labels_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
   labels_->setHorizontalScrollMode(QListView::ScrollPerPixel);
-  labels_->setStyleSheet("QListView { background: transparent; border: none; }");
-  labels_->viewport()->setCursor(Qt::PointingHandCursor);
   labels_->hide();
 }
 
@@ -91,6 +99,12 @@ void GroupLabelsView::apply() {
   labels_->setVisible(any);
   PaneView::apply();
   if (opened) labels_->setFocus(Qt::OtherFocusReason);
+}
+
+}  // namespace
+
+std::unique_ptr<PaneView> group_labels_view(Form1& form, const Perform& perform, QWidget* parent) {
+  return std::make_unique<GroupLabelsView>(form, perform, parent);
 }
 
 }  // namespace vorlund

@@ -1,11 +1,10 @@
 // The text of the help, and the pane that it stands in.
-#include "window/help_view.h"
-
 #include <QHBoxLayout>
 #include <QTextBrowser>
 
 #include "version.h"
 #include "window/theme.h"
+#include "window/views.h"
 
 namespace vorlund {
 
@@ -55,26 +54,34 @@ and HOF.DAT stay, and so does all in the store. Both tables are emptied.</p>
 version 3; the licences come with the program.</p>
 </td></tr></table>)";
 
+/// View of HelpPane.
+class HelpView : public PaneView {
+ public:
+  HelpView(Form1& form, const Perform& perform, QWidget* parent) : PaneView(form, perform) {
+    clicked_frame("HelpFrame", form.help.HelpFrame, parent, &Form1::HelpFrame_Click);
+    auto* page = new QTextBrowser(frame_);
+    page->setObjectName("HelpText");
+    page->setAccessibleName("Help");
+    page->setToolTip("Arrow keys and the wheel scroll the page");
+    page->setOpenLinks(false);
+    page->setTabChangesFocus(true);
+    page->setAttribute(Qt::WA_NoMousePropagation);
+    theme::keep_font(*page);
+    page->setHtml(QString(kText).arg(
+        QStringLiteral("%1.%2.%3").arg(kVersionMajor).arg(kVersionMinor).arg(kVersionRevision)));
+    auto* foot = new QHBoxLayout;
+    foot->addStretch(1);
+    foot->addWidget(command("HelpHide", form.help.HelpHide, Look::kButton, &Form1::HelpFrame_Click,
+                            "Hides the help (Escape)"));
+    frame_->content()->addWidget(page, 1);
+    frame_->content()->addLayout(foot);
+  }
+};
+
 }  // namespace
 
-HelpView::HelpView(Form1& form, const Perform& perform, QWidget* parent) : PaneView(form, perform) {
-  clicked_frame("HelpFrame", form.help.HelpFrame, parent, &Form1::HelpFrame_Click);
-  auto* page = new QTextBrowser(frame_);
-  page->setObjectName("HelpText");
-  page->setAccessibleName("Help");
-  page->setToolTip("Arrow keys and the wheel scroll the page");
-  page->setOpenLinks(false);
-  page->setTabChangesFocus(true);
-  page->setAttribute(Qt::WA_NoMousePropagation);
-  theme::keep_font(*page);
-  page->setHtml(QString(kText).arg(
-      QStringLiteral("%1.%2.%3").arg(kVersionMajor).arg(kVersionMinor).arg(kVersionRevision)));
-  auto* foot = new QHBoxLayout;
-  foot->addStretch(1);
-  foot->addWidget(command("HelpHide", form.help.HelpHide, Look::kButton, &Form1::HelpFrame_Click,
-                          "Hides the help (Escape)"));
-  frame_->content()->addWidget(page, 1);
-  frame_->content()->addLayout(foot);
+std::unique_ptr<PaneView> help_view(Form1& form, const Perform& perform, QWidget* parent) {
+  return std::make_unique<HelpView>(form, perform, parent);
 }
 
 }  // namespace vorlund

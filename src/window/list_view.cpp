@@ -3,8 +3,8 @@
 
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QPainter>
 
+#include "window/action_label.h"
 #include "window/entry_delegate.h"
 #include "window/theme.h"
 
@@ -17,10 +17,6 @@ QString typed_text(const QKeyEvent& event) {
   const Qt::KeyboardModifiers held = event.modifiers() & (Qt::ControlModifier | Qt::AltModifier);
   const bool plain = held == Qt::NoModifier || held == (Qt::ControlModifier | Qt::AltModifier);
   return plain && !event.text().isEmpty() && event.text().front().isPrint() ? event.text() : QString();
-}
-
-bool is_enter(const QKeyEvent& event) {
-  return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
 }
 
 }  // namespace
@@ -61,6 +57,12 @@ void ListView::set_up(const QString& name, const QString& caption) {
       QStringLiteral("background: %1; color: %2; border: 1px solid %2; padding: 3px 8px;")
           .arg(theme::kField.name(), theme::kAccent.name()));
   find_box_->hide();
+}
+
+void ListView::stand_on_picture() {
+  setFrameShape(QFrame::NoFrame);
+  setStyleSheet("QListView { background: transparent; border: none; }");
+  viewport()->setCursor(Qt::PointingHandCursor);
 }
 
 void ListView::apply(int selected) {
@@ -122,11 +124,7 @@ void ListView::show_typed() {
 
 void ListView::paintEvent(QPaintEvent* event) {
   QListView::paintEvent(event);
-  const QString words = empty_words();
-  if (words.isEmpty()) return;
-  QPainter painter(viewport());
-  painter.setPen(theme::kQuietText);
-  painter.drawText(viewport()->rect().adjusted(12, 12, -12, -12), Qt::AlignCenter | Qt::TextWordWrap, words);
+  theme::draw_empty_words(*viewport(), empty_words());
 }
 
 void ListView::resizeEvent(QResizeEvent* event) {
@@ -218,7 +216,7 @@ void ListView::keyPressEvent(QKeyEvent* event) {
     return;
   }
   const QModelIndex before = currentIndex();
-  if (is_enter(*event) || event->key() == Qt::Key_Space) {
+  if (activates(*event)) {
     if (!event->isAutoRepeat()) act(before);
     return;
   }

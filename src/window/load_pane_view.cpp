@@ -1,11 +1,10 @@
 // Declares the controls of the load pane and lays them out.
-#include "window/load_pane_view.h"
-
 #include <QHBoxLayout>
 #include <QPainter>
 #include <QVBoxLayout>
 
 #include "window/theme.h"
+#include "window/views.h"
 
 namespace vorlund {
 
@@ -25,7 +24,15 @@ class Board : public QWidget {
   }
 };
 
-}  // namespace
+/// View of LoadPane's `Frame2`.
+class LoadPaneView : public PaneView {
+ public:
+  LoadPaneView(Form1& form, const Perform& perform, QWidget* parent);
+
+ private:
+  ActionLabel* chosen(const char* name, const Label& data, ListView& list, Click take_back);
+  QLayout* column(TextLabel* heading, ListView* list, ActionLabel* chosen, CheckBox* box);
+};
 
 LoadPaneView::LoadPaneView(Form1& form, const Perform& perform, QWidget* parent) : PaneView(form, perform) {
   LoadPane& pane = form.load_pane;
@@ -106,6 +113,12 @@ QLayout* LoadPaneView::column(TextLabel* heading, ListView* list, ActionLabel* c
   layout->addLayout(choice);
   layout->addWidget(box);
   return layout;
+}
+
+}  // namespace
+
+std::unique_ptr<PaneView> load_pane_view(Form1& form, const Perform& perform, QWidget* parent) {
+  return std::make_unique<LoadPaneView>(form, perform, parent);
 }
 
 }  // namespace vorlund

@@ -3,7 +3,6 @@
 
 #include <QApplication>
 #include <QClipboard>
-#include <QHBoxLayout>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScreen>
@@ -13,28 +12,16 @@
 
 #include "version.h"
 #include "window/accessibility.h"
-#include "window/action_label.h"
-#include "window/contents_view.h"
-#include "window/directory_view.h"
-#include "window/game_pane_view.h"
-#include "window/group_labels_view.h"
-#include "window/help_view.h"
-#include "window/load_pane_view.h"
-#include "window/menu_editor_view.h"
 #include "window/menu_view.h"
 #include "window/picture_view.h"
-#include "window/plane_pane_view.h"
-#include "window/possible_skins_view.h"
-#include "window/save_pane_view.h"
-#include "window/selection_pane_view.h"
+#include "window/status_bar.h"
 #include "window/theme.h"
+#include "window/views.h"
 
 namespace vorlund {
 
 namespace {
 
-constexpr int kStatusHeight = 34;
-constexpr int kAroundStatus = 16;  // pixels above and below a status of several lines
 constexpr int kPaintEveryMilliseconds = 50;
 constexpr int kShownAfterMilliseconds = 100;  // what only reads shows its progress if it takes longer
 constexpr QSize kUsualSize{1800, 980};        // so large that both tables have room
@@ -45,6 +32,7 @@ constexpr QSize kMostSave{400, 400};
 constexpr QSize kMostMenus{1080, 700};
 constexpr QSize kMostHelp{1000, 640};
 constexpr QSize kMostContents{1500, 1000};
+constexpr auto kClosesAfterwards = "Vorlund closes when this is done";
 
 }  // namespace
 
@@ -56,38 +44,11 @@ MainWindow::MainWindow(FileSystem& files, std::function<void(const QString&)> re
   setMinimumSize(kSmallestSize);
   speak_to_assistive_tools();
   add_views();
-  add_status_bar();
+  status_bar_ = new StatusBar(this);
+  status_bar_->help().on_release = [this](const MouseEvent&) {
+    perform([this] { form_->HelpLabel_Click(); });
+  };
   add_keys();
-}
-
-void MainWindow::add_status_bar() {
-  status_bar_ = new QWidget(this);
-  status_bar_->setStyleSheet("background: #111820;");
-  status_bar_->setAttribute(Qt::WA_StyledBackground);
-  status_text_ = new QLabel(status_bar_);
-  status_text_->setObjectName("StatusLine");
-  status_text_->setTextFormat(Qt::PlainText);
-  status_text_->setWordWrap(true);
-  status_text_->setTextInteractionFlags(Qt::TextSelectableByMouse);
-  progress_text_ = new QLabel(status_bar_);
-  progress_text_->setObjectName("ProgressFile");
-  progress_text_->setTextFormat(Qt::PlainText);
-  progress_bar_ = new QProgressBar(status_bar_);
-  progress_bar_->setObjectName("Progress");
-  progress_bar_->setAccessibleName("Progress");
-  progress_bar_->setRange(0, 1000);
-  progress_bar_->setTextVisible(false);
-  progress_bar_->setFixedSize(240, 14);
-  auto* layout = new QHBoxLayout(status_bar_);
-  layout->setContentsMargins(18, 0, 18, 0);
-  layout->addWidget(status_text_, 1);
-  layout->addWidget(progress_text_);
-  layout->addWidget(progress_bar_);
-  layout->addWidget(help_ = new ActionLabel("HelpLabel", ActionLabel::Look::kRow, status_bar_));
-  help_->setToolTip("Explains mouse, keys and columns on one page (F1)");
-  help_->on_release = [this](const MouseEvent&) { perform([this] { form_->HelpLabel_Click(); }); };
-  progress_bar_->hide();
-  progress_text_->hide();
 }
 
 MainWindow::~MainWindow() {
@@ -95,47 +56,38 @@ MainWindow::~MainWindow() {
   hide();
 }
 
-void MainWindow::add_views() {
-  const Perform perform = [this](const std::function<void()>& handler) { this->perform(handler); };
-  const auto add = [this](auto view) {
-    auto* raw = view.get();
-    views_.push_back(std::move(view));
-    return raw;
-  };
-  const auto add_pane = [&](auto view, const Frame& shown) {
-    PaneView* pane = add(std::move(view));
-    frames_.emplace_back(pane, &shown);
-    return pane;
-  };
-  menu_ = add(std::make_unique<MenuView>(*form_, perform, this));
-  add(std::make_unique<GroupLabelsView>(*form_, perform, this));
-  add(std::make_unique<DirectoryView>(*form_, perform, this));
-  add_pane(std::make_unique<SelectionPaneView>(*form_, perform, this), form_->selection.Frame3);
-  game_view_ = add_pane(std::make_unique<GamePaneView>(*form_, perform, this), form_->game.GameFrame);
-  plane_view_ = add_pane(std::make_unique<PlanePaneView>(*form_, perform, this), form_->plane.Frame1);
-  add_pane(std::make_unique<PossibleSkinsView>(*form_, perform, this), form_->possible_skins.Frame4);
-  add_pane(std::make_unique<LoadPaneView>(*form_, perform, this), form_->load_pane.Frame2);
-  add_pane(std::make_unique<SavePaneView>(*form_, perform, this), form_->save_pane.SaveFrame);
-  add_pane(std::make_unique<MenuEditorView>(*form_, perform, this), form_->menu_editor.PMenFrame);
-  add_late_pane<ContentsView>(form_->contents.ContentsFrame);
-  add_late_pane<HelpView>(form_->help.HelpFrame);
+PaneView* MainWindow::add(std::unique_ptr<PaneView> view) {
+  views_.push_back(std::move(view));
+  return views_.back().get();
 }
 
-template <class View>
-void MainWindow::add_late_pane(const Frame& shown) {
-  late_panes_.push_back({&shown, [this] {
-                           return std::make_unique<View>(
-                               *form_, [this](const std::function<void()>& handler) { perform(handler); },
-                               this);
-                         }});
+PaneView* MainWindow::add_pane(MakeView make, const Frame& shown) {
+  PaneView* pane = add(make(*form_, perform_, this));
+  frames_.emplace_back(pane, &shown);
+  return pane;
+}
+
+void MainWindow::add_views() {
+  auto menu = std::make_unique<MenuView>(*form_, perform_, this);
+  menu_ = menu.get();
+  add(std::move(menu));
+  add(group_labels_view(*form_, perform_, this));
+  add(directory_view(*form_, perform_, this));
+  add_pane(selection_pane_view, form_->selection.Frame3);
+  game_view_ = add_pane(game_pane_view, form_->game.GameFrame);
+  plane_view_ = add_pane(plane_pane_view, form_->plane.Frame1);
+  add_pane(possible_skins_view, form_->possible_skins.Frame4);
+  add_pane(load_pane_view, form_->load_pane.Frame2);
+  add_pane(save_pane_view, form_->save_pane.SaveFrame);
+  add_pane(menu_editor_view, form_->menu_editor.PMenFrame);
+  late_panes_ = {{contents_view, &form_->contents.ContentsFrame}, {help_view, &form_->help.HelpFrame}};
 }
 
 void MainWindow::make_late_panes() {
-  for (LatePane& late : late_panes_) {
-    if (!late.make || !late.frame->visible) continue;
-    views_.push_back(std::exchange(late.make, nullptr)());
-    frames_.emplace_back(views_.back().get(), late.frame);
-  }
+  std::erase_if(late_panes_, [this](const LatePane& late) {
+    if (late.frame->visible) add_pane(late.make, *late.frame);
+    return late.frame->visible;
+  });
 }
 
 void MainWindow::add_keys() {
@@ -184,8 +136,7 @@ void MainWindow::perform(const std::function<void()>& handler) {
   begun_.start();
   try {
     handler();
-    progress_bar_->hide();
-    progress_text_->hide();
+    status_bar_->end_progress();
     end_working();
     apply();
     if (close_wanted_) form_->ended = true;
@@ -259,10 +210,8 @@ void MainWindow::follow_requests() {
 
 void MainWindow::apply() {
   if (!started_) return;
-  status_text_->setText(QString::fromStdString(form_->desk.status_line.caption));
-  status_text_->setVisible(progress_bar_->isHidden());
-  help_->apply(form_->help.HelpLabel);
-  place_status_bar();
+  status_bar_->help().apply(form_->help.HelpLabel);
+  status_bar_->say(QString::fromStdString(form_->desk.status_line.caption));
   place_panes();
   make_late_panes();
   for (const auto& view : views_) view->apply();
@@ -283,17 +232,6 @@ void MainWindow::place_panes() {
   layout_.place(form_->menu_editor.PMenFrame, kMostMenus, room);
   layout_.place(form_->help.HelpFrame, kMostHelp, room);
   layout_.place(form_->contents.ContentsFrame, kMostContents, room);
-}
-
-/// As high as its text needs, up to half of the window; what has no room then is in the tooltip.
-void MainWindow::place_status_bar() {
-  const QMargins margins = status_bar_->layout()->contentsMargins();
-  const int room = width() - margins.left() - margins.right() - help_->sizeHint().width() -
-                   status_bar_->layout()->spacing();
-  const int wanted = status_text_->isHidden() ? 0 : status_text_->heightForWidth(room) + kAroundStatus;
-  const int high = std::clamp(wanted, kStatusHeight, std::max(kStatusHeight, height() / 2));
-  status_text_->setToolTip(wanted > high ? theme::literal(status_text_->text()) : QString());
-  status_bar_->setGeometry(0, height() - high, width(), high);
 }
 
 /// Puts the panes in their order, and the focus where the user looks.
@@ -328,14 +266,11 @@ void MainWindow::repaint() {
 void MainWindow::progress(const Progress& progress) {
   if (form_->contents.is_reading && begun_.elapsed() < kShownAfterMilliseconds) return;
   begin_working();
-  if (progress_bar_->isVisible() && painted_.elapsed() < kPaintEveryMilliseconds) return;
-  status_text_->hide();
-  progress_bar_->setValue(static_cast<int>(progress.fraction * 1000));
-  progress_bar_->show();
-  progress_text_->setText(
-      close_wanted_ ? QStringLiteral("Vorlund closes when this is done")
+  if (status_bar_->shows_progress() && painted_.elapsed() < kPaintEveryMilliseconds) return;
+  status_bar_->show_progress(
+      progress.fraction,
+      close_wanted_ ? QString(kClosesAfterwards)
                     : QString::fromUtf8(progress.file.data(), static_cast<qsizetype>(progress.file.size())));
-  progress_text_->show();
   keep_alive();
 }
 
@@ -369,7 +304,7 @@ void MainWindow::resizeEvent(QResizeEvent*) {
 void MainWindow::closeEvent(QCloseEvent* event) {
   if (running_) {
     close_wanted_ = true;
-    progress_text_->setText("Vorlund closes when this is done");
+    status_bar_->set_progress_words(kClosesAfterwards);
     event->ignore();
     return;
   }

@@ -1,28 +1,34 @@
 // Declares the controls of the menu editor and lays them out.
-#include "window/menu_editor_view.h"
-
 #include <QGridLayout>
 #include <QHBoxLayout>
-#include <QLineEdit>
 #include <QScrollArea>
 #include <QVBoxLayout>
 #include <array>
 
 #include "window/plate.h"
 #include "window/theme.h"
+#include "window/views.h"
 
 namespace vorlund {
 
 namespace {
 
-constexpr std::array<const char*, 3> kMenuNames = {"British menu, picplnb.mnu", "American menu, picplna.mnu",
-                                                   "German menu, picplng.mnu"};
 constexpr std::array<const char*, 4> kHeadings = {"", "Name in the menu", "Length",
                                                   "Bytes carried unchanged"};
 constexpr int kPlaneNamesWidth = 168;
 constexpr int kSharedEntries = 9;  // the German menu has two more
 
-}  // namespace
+/// View of MenuEditor's `PMenFrame` with `MnuFrame` in it, and of the list of display names.
+class MenuEditorView : public PaneView {
+ public:
+  MenuEditorView(Form1& form, const Perform& perform, QWidget* parent);
+
+ private:
+  QWidget* make_countries();
+  QWidget* make_entries();
+  void make_entry(QGridLayout* grid, int index);
+  QLayout* make_names();
+};
 
 MenuEditorView::MenuEditorView(Form1& form, const Perform& perform, QWidget* parent)
     : PaneView(form, perform) {
@@ -73,10 +79,10 @@ QWidget* MenuEditorView::make_countries() {
   row->setContentsMargins(12, 8, 12, 8);
   row->setSpacing(20);
   row->addWidget(caption, 1);
-  for (std::size_t index = 0; index < kMenuNames.size(); ++index) {
+  for (std::size_t index = 0; index < MenuEditor::kMenuNames.size(); ++index) {
     auto* button =
         option("CountryBut", static_cast<int>(index), pane.CountryBut[index], &Form1::CountryBut_Click);
-    button->setToolTip(kMenuNames[index]);
+    button->setToolTip(MenuEditor::kMenuNames[index]);
     row->addWidget(button);
   }
   stand_on(frame_);
@@ -115,18 +121,11 @@ void MenuEditorView::make_entry(QGridLayout* grid, int index) {
   const auto at = static_cast<std::size_t>(index);
   auto* number = note(QString::number(index + 1) + (index < kSharedEntries ? "" : " (G)"));
   if (index >= kSharedEntries) number->setToolTip("Only the German menu has this entry");
-  auto* name = new QLineEdit(board_);
-  name->setObjectName(element_name("bmnutb", index));
-  name->setAccessibleName(QStringLiteral("Name of entry %1").arg(index + 1));
+  auto* name = text_box(
+      element_name("bmnutb", index), QStringLiteral("Name of entry %1").arg(index + 1), pane.bmnutb[at],
+      [this, index](const std::string& typed) { run(&Form1::bmnutb_Change, index, typed); });
   name->setToolTip("The name as it stands in the menu; what is typed is not kept");
   name->setMaxLength(static_cast<int>(PictureMenu::kLongestName));
-  QObject::connect(name, &QLineEdit::textEdited, frame_, [this, index](const QString& typed) {
-    run(&Form1::bmnutb_Change, index, typed.toStdString());
-  });
-  also([name, &shown = pane.bmnutb[at].text] {
-    const QString wanted = QString::fromStdString(shown);
-    if (name->text() != wanted) name->setText(wanted);
-  });
   grid->addWidget(number, index + 1, 0);
   grid->addWidget(name, index + 1, 1);
   grid->addWidget(text(element_name("mlen", index), pane.mlen[at], Tone::kPlain), index + 1, 2);
@@ -147,6 +146,12 @@ QLayout* MenuEditorView::make_names() {
   names->addWidget(note("Display names"));
   names->addWidget(list, 1);
   return names;
+}
+
+}  // namespace
+
+std::unique_ptr<PaneView> menu_editor_view(Form1& form, const Perform& perform, QWidget* parent) {
+  return std::make_unique<MenuEditorView>(form, perform, parent);
 }
 
 }  // namespace vorlund

@@ -115,6 +115,21 @@ PictureView* PaneView::picture(const char* name, const Picture& data, PictureFit
   return view;
 }
 
+QLineEdit* PaneView::text_box(const QString& name, const QString& caption, const TextBox& data,
+                              std::function<void(const std::string&)> typed) {
+  auto* box = new QLineEdit(board_);
+  box->setObjectName(name);
+  box->setAccessibleName(caption);
+  QObject::connect(box, &QLineEdit::textEdited, frame_,
+                   [typed = std::move(typed)](const QString& text) { typed(text.toStdString()); });
+  also([box, &data] {
+    const QString shown = QString::fromStdString(data.text);
+    if (box->text() != shown) box->setText(shown);
+    box->setVisible(data.visible);
+  });
+  return box;
+}
+
 TextLabel* PaneView::note(const QString& words, Tone tone) {
   auto* widget = new TextLabel(QString(), tone, board_);
   widget->setText(words);

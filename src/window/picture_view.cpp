@@ -7,6 +7,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include "window/action_label.h"
 #include "window/theme.h"
 
 namespace vorlund {
@@ -145,9 +146,7 @@ void PictureView::showEvent(QShowEvent* event) {
 }
 
 void PictureView::keyPressEvent(QKeyEvent* event) {
-  const bool activates =
-      event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter || event->key() == Qt::Key_Space;
-  if (activates && on_click) {
+  if (activates(*event) && on_click) {
     on_click();
   } else {
     QWidget::keyPressEvent(event);

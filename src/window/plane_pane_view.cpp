@@ -1,12 +1,14 @@
 // Declares the controls of the aircraft pane and lays them out.
-#include "window/plane_pane_view.h"
-
+#include <QBoxLayout>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QVBoxLayout>
+#include <vector>
 
+#include "window/grid_view.h"
 #include "window/pane_layout.h"
 #include "window/theme.h"
+#include "window/views.h"
 
 namespace vorlund {
 
@@ -38,7 +40,28 @@ QString explanation(int column) {
   }
 }
 
-}  // namespace
+/// View of PlanePane's `Frame1` and of the two lists that its option buttons switch between.
+class PlanePaneView : public PaneView {
+ public:
+  PlanePaneView(Form1& form, const Perform& perform, QWidget* parent);
+  void apply() override;
+  QSize least_size(int width) override;
+
+ private:
+  GridView* make_table();
+  QLayout* lay_out_table(GridView* table);
+  QLayout* lay_out_options();
+  QLayout* lay_out_commands();
+  /// Puts the lists beside the table where the pane is wide enough, else below it.
+  void lay_out_for(int width);
+
+  [[nodiscard]] bool acts(int row, int column) const;
+  [[nodiscard]] QString advice() const;
+
+  GridView* table_ = nullptr;
+  QBoxLayout* both_ = nullptr;  ///< table and lists
+  std::vector<ListView*> lists_;
+};
 
 PlanePaneView::PlanePaneView(Form1& form, const Perform& perform, QWidget* parent) : PaneView(form, perform) {
   const PlanePane& pane = form.plane;
@@ -217,6 +240,12 @@ QSize PlanePaneView::least_size(int width) {
 void PlanePaneView::apply() {
   lay_out_for(theme::pixels(form_.plane.Frame1.place.width));
   PaneView::apply();
+}
+
+}  // namespace
+
+std::unique_ptr<PaneView> plane_pane_view(Form1& form, const Perform& perform, QWidget* parent) {
+  return std::make_unique<PlanePaneView>(form, perform, parent);
 }
 
 }  // namespace vorlund

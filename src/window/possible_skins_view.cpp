@@ -1,8 +1,9 @@
 // Declares the controls of the pane of possible skins and lays them out.
-#include "window/possible_skins_view.h"
-
 #include <QHBoxLayout>
 #include <QVBoxLayout>
+
+#include "window/contact_sheet.h"
+#include "window/views.h"
 
 namespace vorlund {
 
@@ -17,7 +18,16 @@ QHBoxLayout* in_a_row(const std::vector<QWidget*>& widgets) {
   return row;
 }
 
-}  // namespace
+/// View of PossibleSkins' `Frame4`.
+class PossibleSkinsView : public PaneView {
+ public:
+  PossibleSkinsView(Form1& form, const Perform& perform, QWidget* parent);
+
+ private:
+  QLayout* lay_out_list();
+  QLayout* lay_out_picture();
+  QWidget* make_sheet();
+};
 
 PossibleSkinsView::PossibleSkinsView(Form1& form, const Perform& perform, QWidget* parent)
     : PaneView(form, perform) {
@@ -95,6 +105,12 @@ QWidget* PossibleSkinsView::make_sheet() {
     sheet->apply(pane.List4.selected);
   });
   return sheet;
+}
+
+}  // namespace
+
+std::unique_ptr<PaneView> possible_skins_view(Form1& form, const Perform& perform, QWidget* parent) {
+  return std::make_unique<PossibleSkinsView>(form, perform, parent);
 }
 
 }  // namespace vorlund

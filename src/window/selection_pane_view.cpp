@@ -1,12 +1,12 @@
 // Declares the controls of the selection pane and lays them out.
-#include "window/selection_pane_view.h"
-
 #include <QHBoxLayout>
 #include <QPlainTextEdit>
 #include <QVBoxLayout>
 
+#include "window/contact_sheet.h"
 #include "window/pane_layout.h"
 #include "window/plate.h"
+#include "window/views.h"
 
 namespace vorlund {
 
@@ -30,7 +30,26 @@ QString in_short_lines(const QString& text) {
   return shown.join('\n');
 }
 
-}  // namespace
+/// View of SelectionPane's `Frame3`.
+class SelectionPaneView : public PaneView {
+ public:
+  SelectionPaneView(Form1& form, const Perform& perform, QWidget* parent);
+
+ private:
+  QWidget* make_selections();
+  QWidget* make_details();
+  QLayout* make_commands();
+  QWidget* make_description();
+  enum class Of { kGroup, kSelection };
+  QLabel* detail(const char* name, const Label& data, double size = 1.0, Of of = Of::kSelection);
+  QLabel* label(const char* name, double size, const QString& words = {});
+  QWidget* make_sheet();
+  void show_sheet(bool shown);
+
+  ListView* list_ = nullptr;
+  ContactSheet* sheet_ = nullptr;
+  bool came_from_sheet_ = false;  ///< to the shown selection, with the keyboard
+};
 
 SelectionPaneView::SelectionPaneView(Form1& form, const Perform& perform, QWidget* parent)
     : PaneView(form, perform) {
@@ -83,9 +102,7 @@ QWidget* SelectionPaneView::make_selections() {
   list_->on_double_click = [this] { run(&Form1::SelLab_DblClick); };
   list_->arrows_act = [&pane] { return !pane.shows_sheet(); };
   list_->setToolTip(kOfFolders);
-  list_->setFrameShape(QFrame::NoFrame);
-  list_->setStyleSheet("QListView { background: transparent; border: none; }");
-  list_->viewport()->setCursor(Qt::PointingHandCursor);
+  list_->stand_on_picture();
 
   auto* layout = new QVBoxLayout(plate);
   layout->addWidget(detail("Label42", form_.desk.labels.Label42, 1.5, Of::kGroup));
@@ -199,6 +216,12 @@ QLayout* SelectionPaneView::make_commands() {
   commands->addWidget(
       command("Label10", 2, pane.Label10, Look::kButton, &Form1::Label10_Click, "Leaves the group (Escape)"));
   return commands;
+}
+
+}  // namespace
+
+std::unique_ptr<PaneView> selection_pane_view(Form1& form, const Perform& perform, QWidget* parent) {
+  return std::make_unique<SelectionPaneView>(form, perform, parent);
 }
 
 }  // namespace vorlund

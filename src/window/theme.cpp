@@ -98,6 +98,15 @@ QRect pixels(const Place& place) {
   return {pixels(place.left), pixels(place.top), pixels(place.width), pixels(place.height)};
 }
 
+void draw_empty_words(QWidget& viewport, const QString& words) {
+  if (words.isEmpty()) return;
+  constexpr int kMargin = 12;
+  QPainter painter(&viewport);
+  painter.setPen(kQuietText);
+  painter.drawText(viewport.rect().adjusted(kMargin, kMargin, -kMargin, -kMargin),
+                   Qt::AlignCenter | Qt::TextWordWrap, words);
+}
+
 void draw_plate(QPainter& painter, const QRect& area, const QColor& fill, const QColor& edge) {
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setBrush(fill);

@@ -13,6 +13,10 @@ namespace vorlund {
 /// show is derived from it.
 class MenuEditor {
  public:
+  /// What the three menus are called, by country.
+  static constexpr std::array<const char*, 3> kMenuNames = {
+      "British menu, picplnb.mnu", "American menu, picplna.mnu", "German menu, picplng.mnu"};
+
   explicit MenuEditor(Desk& desk) : desk_(desk) {}
 
   PictureMenu menu;  ///< what the pane shows

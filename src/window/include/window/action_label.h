@@ -12,6 +12,9 @@ namespace vorlund {
 /// The mouse event of the model that a Qt event stands for, at a position within the control.
 MouseEvent to_model(Qt::MouseButton button, Qt::KeyboardModifiers modifiers, const QPointF& position);
 
+/// True for the keys that do what a click does: Enter and Space.
+bool activates(const QKeyEvent& event);
+
 /// Shows one Label of the model and hands its presses and releases back.
 class ActionLabel : public QAbstractButton {
  public:

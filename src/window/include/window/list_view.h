@@ -42,6 +42,9 @@ class ListView : public QListView {
   /// Delete was pressed.
   std::function<void()> on_delete;
 
+  /// From now on what lies behind shows through, and the pointer says that entries can be clicked.
+  void stand_on_picture();
+
   /// Shown in place of entries while there is none and nothing has been typed.
   void set_empty_text(const QString& text) { empty_text_ = text; }
 

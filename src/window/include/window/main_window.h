@@ -2,9 +2,7 @@
 #pragma once
 
 #include <QElapsedTimer>
-#include <QLabel>
 #include <QPixmap>
-#include <QProgressBar>
 #include <QWidget>
 #include <exception>
 #include <functional>
@@ -14,13 +12,13 @@
 #include "disk/status.h"
 #include "panes/form1.h"
 #include "window/focus_keeper.h"
-#include "window/pane_frame.h"
 #include "window/pane_layout.h"
-#include "window/pane_view.h"
+#include "window/views.h"
 
 namespace vorlund {
 
 class MenuView;
+class StatusBar;
 
 /// The one window of the program. Every event runs a handler of Form1 and then shows the state it left.
 class MainWindow : public QWidget, private Status {
@@ -58,17 +56,14 @@ class MainWindow : public QWidget, private Status {
   void pulse() override;
   bool leave_wanted() override { return leave_wanted_ || close_wanted_; }
 
-  void add_status_bar();
   void add_views();
-  /// The pane's widgets are made when it is shown for the first time: they would cost start-up and memory.
-  template <class View>
-  void add_late_pane(const Frame& shown);
+  PaneView* add(std::unique_ptr<PaneView> view);
+  PaneView* add_pane(MakeView make, const Frame& shown);
   void make_late_panes();
   void add_keys();
   void place_panes();
   void apply();
   void follow_panes();
-  void place_status_bar();
   void follow_requests();
   void report(const std::exception& error);
   void keep_alive();
@@ -77,24 +72,21 @@ class MainWindow : public QWidget, private Status {
 
   std::function<void(const QString&)> report_error_;
   std::unique_ptr<Form1> form_;
+  const Perform perform_ = [this](const std::function<void()>& handler) { perform(handler); };
   std::vector<std::unique_ptr<PaneView>> views_;
   MenuView* menu_ = nullptr;
   PaneView* plane_view_ = nullptr;
   PaneView* game_view_ = nullptr;
   std::vector<std::pair<PaneView*, const Frame*>> frames_;  ///< panes, each with its data
   struct LatePane {
+    MakeView* make;
     const Frame* frame;
-    std::function<std::unique_ptr<PaneView>()> make;  ///< empty once it was made
   };
-  std::vector<LatePane> late_panes_;
+  std::vector<LatePane> late_panes_;  ///< made when first shown: they would cost start-up and memory
   PaneLayout layout_;
   std::vector<int> shown_order_;
   FocusKeeper focus_{*this};
-  QWidget* status_bar_ = nullptr;
-  QLabel* status_text_ = nullptr;
-  QProgressBar* progress_bar_ = nullptr;
-  QLabel* progress_text_ = nullptr;
-  ActionLabel* help_ = nullptr;
+  StatusBar* status_bar_ = nullptr;
   QElapsedTimer painted_;
   QPixmap background_;
   QSize background_for_;

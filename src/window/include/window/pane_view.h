@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QLabel>
+#include <QLineEdit>
 #include <QString>
 #include <functional>
 #include <vector>
@@ -76,6 +77,10 @@ class PaneView {
   CheckBox* check_box(const char* name, const Choice& data, Click handler);
   PictureView* picture(const char* name, const Picture& data, PictureFit fit, const QString& caption,
                        Click handler);
+
+  /// A box to type into; `typed` is given its text after each change.
+  QLineEdit* text_box(const QString& name, const QString& caption, const TextBox& data,
+                      std::function<void(const std::string&)> typed);
 
   /// A text of the window's own, in a single line.
   TextLabel* note(const QString& words, Tone tone = Tone::kQuiet);

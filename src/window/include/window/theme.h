@@ -44,6 +44,9 @@ int pixels(int twips);
 int twips(double pixels);
 QRect pixels(const Place& place);
 
+/// What stands in a list or table while it is empty, "" for nothing.
+void draw_empty_words(QWidget& viewport, const QString& words);
+
 /// A filled rounded rectangle with an optional edge, crisp at every scale.
 void draw_plate(QPainter& painter, const QRect& area, const QColor& fill, const QColor& edge);
 
