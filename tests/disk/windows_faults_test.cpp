@@ -5,12 +5,15 @@
 
 #include <shellapi.h>
 
+#include <algorithm>
 #include <functional>
 #include <optional>
 #include <string>
+#include <utility>
 
 #include "base/action_error.h"
 #include "disk/file_system.h"
+#include "support/left_over.h"
 #include "support/temporary_folder.h"
 #include "windows/windows_path.h"
 #include "windows/windows_program.h"
@@ -31,6 +34,8 @@ struct Answers {
     return ERROR_SUCCESS;
   };
   DWORD information_error = ERROR_SUCCESS;
+  DWORD rights_error = ERROR_SUCCESS;
+  DWORD first_rename_error = ERROR_SUCCESS;  ///< of the first rename of an open file
   DWORD list_error = ERROR_SUCCESS;
   DWORD current_folder_error = ERROR_SUCCESS;
   DWORD seek_error = ERROR_SUCCESS;
@@ -49,9 +54,8 @@ std::wstring shell_folder;
 
 /// The system's own function.
 template <typename Function>
-Function system_function(const char* name) {
-  return reinterpret_cast<Function>(
-      reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"kernel32"), name)));
+Function system_function(const char* name, const wchar_t* library = L"kernel32") {
+  return reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(library), name)));
 }
 
 BOOL failed(DWORD error) {
@@ -134,9 +138,20 @@ BOOL WINAPI move_file(LPCWSTR from, LPCWSTR to, DWORD flags) {
   return real(from, between.c_str(), flags) != 0 ? real(between.c_str(), to, flags) : FALSE;
 }
 
+/// As everywhere, the size is told where there is no room.
+BOOL WINAPI get_rights(HANDLE object, SECURITY_INFORMATION kinds, PSECURITY_DESCRIPTOR rights, DWORD room,
+                       LPDWORD size) {
+  static const auto real =
+      system_function<decltype(&GetKernelObjectSecurity)>("GetKernelObjectSecurity", L"advapi32");
+  return answers.rights_error == ERROR_SUCCESS || room == 0 ? real(object, kinds, rights, room, size)
+                                                            : failed(answers.rights_error);
+}
+
 BOOL WINAPI set_information(HANDLE file, FILE_INFO_BY_HANDLE_CLASS kind, LPVOID information, DWORD size) {
   static const auto real =
       system_function<decltype(&SetFileInformationByHandle)>("SetFileInformationByHandle");
+  if (answers.first_rename_error != ERROR_SUCCESS && kind == FileRenameInfo)
+    return failed(std::exchange(answers.first_rename_error, ERROR_SUCCESS));
   if (answers.replaces_case && kind == FileRenameInfo)
     DeleteFileW(static_cast<const FILE_RENAME_INFO*>(information)->FileName);
   return real(file, kind, information, size);
@@ -203,6 +218,7 @@ decltype(&ShellExecuteExW) __imp_ShellExecuteExW = shell_execute;
 decltype(&CreateFileW) __imp_CreateFileW = create_file;
 decltype(&GetFileAttributesW) __imp_GetFileAttributesW = get_attributes;
 decltype(&GetFileInformationByHandle) __imp_GetFileInformationByHandle = get_information;
+decltype(&GetKernelObjectSecurity) __imp_GetKernelObjectSecurity = get_rights;
 decltype(&FindFirstFileExW) __imp_FindFirstFileExW = find_first;
 decltype(&FindNextFileW) __imp_FindNextFileW = find_next;
 decltype(&MoveFileExW) __imp_MoveFileExW = move_file;
@@ -477,6 +493,70 @@ TEST_F(WindowsFaults, ADiskThatDoesNotTellFoldersApartKnowsNoLocks) {
   const FolderLocks locks = files_->lock_folders({folder_.path()}, 0ms);
   EXPECT_EQ(locks.in_use(), "");
   EXPECT_EQ(locks.without_locks(), folder_.path());
+}
+
+/// Copies that are written in a folder of their own before they are renamed to their place.
+class WindowsStaging : public WindowsFaults {
+ protected:
+  WindowsStaging() {
+    folder_.write("Set/a", "new a");
+    folder_.write("Game/b", "old b");
+    folder_.write("Set/b", "new b");
+    folder_.make_folder("Store");
+  }
+
+  /// What writes were made in shows by what a crash has left there: it is swept.
+  void copy_set(const Names& written_in) {
+    for (const char* folder : {"Game/", "Store/"}) folder_.write(folder + left_over_, "half");
+    Tree expected{{"Set/a", "new a"}, {"Set/b", "new b"}, {"Game/a", "new a"}, {"Game/b", "new b"}};
+    for (const std::string folder : {"Game/", "Store/"}) {
+      if (std::find(written_in.begin(), written_in.end(), folder) == written_in.end())
+        expected[folder + left_over_] = "half";
+    }
+    if (!expected.contains("Store/" + left_over_)) expected["Store/"] = "";
+    {
+      const FileSystem::Action action(*files_, {}, folder_.path("Store"));
+      for (const std::string name : {"a", "b"}) copy("Set\\" + name, "Game\\" + name);
+    }
+    EXPECT_EQ(folder_.tree(), expected);
+  }
+
+  const std::string left_over_ = test::left_over_name();
+};
+
+TEST_F(WindowsStaging, ServesWhereFilesInheritTheSame) {
+  copy_set({"Store/"});
+}
+
+TEST_F(WindowsStaging, IsLeftAloneWhereTheRightsCannotBeTold) {
+  answers.rights_error = ERROR_ACCESS_DENIED;
+  copy_set({"Game/"});
+}
+
+TEST_F(WindowsStaging, IsLeftAloneWhereTheDiskCannotBeTold) {
+  answers.information_error = ERROR_NOT_SUPPORTED;
+  copy_set({"Game/"});
+}
+
+TEST_F(WindowsStaging, WhereItIsMountedApartACopyIsWrittenBesideItsTarget) {
+  answers.first_rename_error = ERROR_NOT_SAME_DEVICE;
+  copy_set({"Game/", "Store/"});
+}
+
+TEST_F(WindowsStaging, WithoutTheRightToWriteThereACopyIsWrittenBesideItsTarget) {
+  bool first = true;
+  answers.open_error = [&first](DWORD, DWORD disposition) {
+    return disposition == CREATE_NEW && std::exchange(first, false) ? ERROR_ACCESS_DENIED : ERROR_SUCCESS;
+  };
+  copy_set({"Game/", "Store/"});
+}
+
+TEST_F(WindowsStaging, ARenameThatFailsOtherwiseIsAnErrorAndLeavesNothing) {
+  answers.first_rename_error = ERROR_DISK_FULL;
+  const FileSystem::Action action(*files_, {}, folder_.path("Store"));
+  EXPECT_NE(reason_of([this] { copy("Set\\b", "Game\\b"); }), "");
+  EXPECT_EQ(folder_.tree(),
+            (Tree{{"Set/a", "new a"}, {"Set/b", "new b"}, {"Game/b", "old b"}, {"Store/", ""}}));
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <cstdlib>
 #include <string_view>
 
 namespace vorlund::test {
@@ -37,6 +38,14 @@ struct Name {
   char text[32] = {};
 };
 
+void* system_function(const char* name) {
+  for (const wchar_t* library : {L"kernel32", L"advapi32"}) {
+    if (const FARPROC found = GetProcAddress(GetModuleHandleW(library), name))
+      return reinterpret_cast<void*>(found);
+  }
+  std::abort();
+}
+
 template <typename Function>
 struct Watched;
 
@@ -44,8 +53,7 @@ template <typename Result, typename... Arguments>
 struct Watched<Result (*)(Arguments...)> {
   template <Name kName, std::intptr_t kFailure>
   static Result call(Arguments... arguments) {
-    static const auto real = reinterpret_cast<Result (*)(Arguments...)>(
-        reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"kernel32"), kName.text)));
+    static const auto real = reinterpret_cast<Result (*)(Arguments...)>(system_function(kName.text));
     const bool closes = std::string_view(kName.text).find("Close") != std::string_view::npos;
     if (!fails(kName.text)) return real(arguments...);
     if (closes) real(arguments...);
@@ -99,6 +107,7 @@ WATCHED(GetFileAttributesW, kNoHandle);
 WATCHED(GetFileInformationByHandle, kNo);
 WATCHED(GetFileSizeEx, kNo);
 WATCHED(GetFinalPathNameByHandleW, kNo);
+WATCHED(GetKernelObjectSecurity, kNo);
 WATCHED(MoveFileExW, kNo);
 WATCHED(OpenMutexW, kNo);
 WATCHED(ReadFile, kNo);

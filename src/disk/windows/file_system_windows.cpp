@@ -58,16 +58,8 @@ class WindowsFileSystem final : public FileSystem {
   FolderLocks lock_folders(const std::vector<std::string>& folders, std::chrono::milliseconds wait) override;
 
  protected:
-  /// Copies are written beside their targets: a file moved out of another folder would keep the access rights
-  /// that it inherited there.
-  void begin_action(Pulse pulse, std::string_view) override {
-    patience_.set_pulse(std::move(pulse));
-    folders_.remember();
-  }
-  void end_action() override {
-    patience_.set_pulse({});
-    folders_.forget();
-  }
+  void begin_action(Pulse pulse, std::string_view staging) override;
+  void end_action() override;
 
  private:
   /// After a look that failed: returns where nothing is there; where there is no right to look as well, and
@@ -81,7 +73,8 @@ class WindowsFileSystem final : public FileSystem {
   WindowsPatience patience_;
   WindowsContent content_{patience_};
   WindowsFolders folders_;
-  std::set<std::string> unseen_;  ///< paths that there was no right to look at
+  std::shared_ptr<WindowsFolder> staging_;  ///< where copies are written; none: beside their targets
+  std::set<std::string> unseen_;            ///< paths that there was no right to look at
 };
 
 std::string WindowsFileSystem::current_folder() {
@@ -182,7 +175,7 @@ std::unique_ptr<FileReader> WindowsFileSystem::open_file(std::string_view path) 
 
 void WindowsFileSystem::replace_file(std::string_view path, std::string_view bytes, Durability durability) {
   WindowsTarget target(folders_, path, Spelling::kAsItStands, patience_);
-  const HANDLE written = target.begin();
+  const HANDLE written = target.begin(nullptr);
   if (!write_all(written, bytes)) throw_windows_error("write", path);
   target.finish(durability);
 }
@@ -199,8 +192,12 @@ CopyOutcome WindowsFileSystem::copy_file(std::string_view source_path, std::stri
   if (holds(target, source)) {
     return target.keep(durability) ? CopyOutcome::kUnchanged : CopyOutcome::kWritten;
   }
-  content_.copy(source, target.begin(), target_path);
-  target.finish(durability);
+  content_.copy(source, target.begin(staging_), target_path);
+  if (!target.finish(durability)) {
+    staging_.reset();
+    content_.copy(source, target.begin(nullptr), target_path);
+    target.finish(durability);
+  }
   return CopyOutcome::kWritten;
 }
 
@@ -247,6 +244,19 @@ void WindowsFileSystem::remove_file(std::string_view path) {
   }
   const std::size_t name_begin = spelled.rfind(L'\\') + 1;
   folders_.open(spelled.substr(0, name_begin))->name_removed(spelled.substr(name_begin));
+}
+
+void WindowsFileSystem::begin_action(Pulse pulse, std::string_view staging) {
+  patience_.set_pulse(std::move(pulse));
+  folders_.remember();
+  const std::wstring folder = long_path(staging, EntryKind::kFolder);
+  if (!folder.empty()) staging_ = folders_.open(folder + L"\\");
+}
+
+void WindowsFileSystem::end_action() {
+  patience_.set_pulse({});
+  staging_.reset();
+  folders_.forget();
 }
 
 FolderLocks WindowsFileSystem::lock_folders(const std::vector<std::string>& folders,

@@ -59,6 +59,28 @@ bool WindowsFolder::remember_names() {
   return names_.has_value();
 }
 
+const std::string& WindowsFolder::nature() {
+  if (nature_) return *nature_;
+  nature_.emplace();
+  const WindowsHandle opened =
+      open_existing(path_, FILE_READ_ATTRIBUTES | READ_CONTROL, FILE_FLAG_BACKUP_SEMANTICS);
+  BY_HANDLE_FILE_INFORMATION information;
+  if (!opened.is_open() || GetFileInformationByHandle(opened.get(), &information) == 0) return *nature_;
+  DWORD size = 0;
+  GetKernelObjectSecurity(opened.get(), DACL_SECURITY_INFORMATION, nullptr, 0, &size);
+  std::string rights(size, '\0');
+  if (GetKernelObjectSecurity(opened.get(), DACL_SECURITY_INFORMATION, rights.data(), size, &size) == 0)
+    return *nature_;
+  constexpr DWORD kInherited = FILE_ATTRIBUTE_COMPRESSED | FILE_ATTRIBUTE_ENCRYPTED;
+  nature_ = std::to_string(information.dwVolumeSerialNumber) + " " +
+            std::to_string(information.dwFileAttributes & kInherited) + " " + rights;
+  return *nature_;
+}
+
+bool WindowsFolder::takes_files_of(WindowsFolder& other) {
+  return !nature().empty() && nature() == other.nature();
+}
+
 void WindowsFolder::sweep_left_overs() {
   if (memory_ == Memory::kRemembered && std::exchange(swept_, true)) return;
   delete_matching(path_, is_left_over);

@@ -30,6 +30,13 @@ class WindowsFolder {
   /// `path` is a full path with a backslash at its end.
   WindowsFolder(std::wstring path, Memory memory) : path_(std::move(path)), memory_(memory) {}
 
+  /// Path of the folder, with a backslash at its end.
+  [[nodiscard]] const std::wstring& path() const { return path_; }
+
+  /// True where files made in the other folder and moved here are the same as if they were made here: both
+  /// are on one disk, and what files inherit of them is the same (access rights, compression, encryption).
+  bool takes_files_of(WindowsFolder& other);
+
   /// What stands there under the name, in whatever spelling or by its short form; none, with the system's
   /// error, which is ERROR_FILE_NOT_FOUND where there is nothing.
   std::optional<WindowsEntry> find(const std::wstring& name);
@@ -43,10 +50,13 @@ class WindowsFolder {
 
  private:
   bool remember_names();
+  /// The disk, and what files inherit of the folder, as bytes, asked once; "" where that can't be told.
+  const std::string& nature();
 
   std::wstring path_;
   Memory memory_;
   std::optional<std::unordered_map<std::wstring, WindowsEntry>> names_;  ///< by the name in upper case
+  std::optional<std::string> nature_;
   bool swept_ = false;
 };
 

@@ -56,9 +56,15 @@ WindowsTarget::WindowsTarget(WindowsFolders& folders, std::string_view path, Spe
 }
 
 WindowsTarget::~WindowsTarget() {
+  drop();
+}
+
+/// Removes a neighbour that was not put in its place.
+void WindowsTarget::drop() {
   if (!written_.is_open()) return;
   FILE_DISPOSITION_INFO removal{TRUE};
   SetFileInformationByHandle(written_.get(), FileDispositionInfo, &removal, sizeof removal);
+  written_.close();
 }
 
 WindowsHandle WindowsTarget::open_to_compare(std::uint64_t size) const {
@@ -90,25 +96,36 @@ void WindowsTarget::foresee(Writing writing) const {
   fail();
 }
 
-HANDLE WindowsTarget::begin() {
+HANDLE WindowsTarget::begin(const std::shared_ptr<WindowsFolder>& staging) {
+  drop();
   if (existing_) refuse_read_only(existing_->attributes, "write", path_);
-  const DWORD kept = existing_ ? existing_->attributes & kKeptAttributes : 0;
-  const DWORD attributes = kept != 0 ? kept : FILE_ATTRIBUTE_NORMAL;
+  staged_ = staging && in_->takes_files_of(*staging);
+  if (staged_) {
+    staging->sweep_left_overs();
+    staged_ = create(*staging);
+  }
+  if (staged_) return written_.get();
   in_->sweep_left_overs();
-  for (unsigned attempt = 0; !written_.is_open(); ++attempt) {
-    const std::wstring neighbour = folder_ + to_wide(staging_name(attempt));
-    const bool created = patience_.insist_on_change([&] {
-      // The name is taken as it stands: where the system tells cases apart below, as Wine does, it need not
-      // look through the whole folder for another spelling.
-      written_ = WindowsHandle(CreateFileW(neighbour.c_str(), GENERIC_WRITE | DELETE, 0, nullptr, CREATE_NEW,
-                                           attributes | FILE_FLAG_POSIX_SEMANTICS, nullptr));
-      return written_.is_open();
-    });
-    const DWORD error = created ? ERROR_SUCCESS : GetLastError();
-    if (error == ERROR_ACCESS_DENIED) throw ActionError("write", path_, kNoRight);
-    if (error != ERROR_SUCCESS && error != ERROR_FILE_EXISTS && error != ERROR_ALREADY_EXISTS) fail();
+  if (!patience_.insist_on_change([this] { return create(*in_); })) {
+    if (GetLastError() == ERROR_ACCESS_DENIED) throw ActionError("write", path_, kNoRight);
+    fail();
   }
   return written_.get();
+}
+
+/// Creates the neighbour in a folder under a name that is not taken; false, with the system's error, where
+/// that can't be done.
+bool WindowsTarget::create(const WindowsFolder& folder) {
+  const DWORD kept = existing_ ? existing_->attributes & kKeptAttributes : 0;
+  const DWORD attributes = kept != 0 ? kept : FILE_ATTRIBUTE_NORMAL;
+  DWORD error = ERROR_FILE_EXISTS;
+  for (unsigned attempt = 0; error == ERROR_FILE_EXISTS || error == ERROR_ALREADY_EXISTS; ++attempt) {
+    const std::wstring neighbour = folder.path() + to_wide(staging_name(attempt));
+    written_ = WindowsHandle(
+        CreateFileW(neighbour.c_str(), GENERIC_WRITE | DELETE, 0, nullptr, CREATE_NEW, attributes, nullptr));
+    error = written_.is_open() ? ERROR_SUCCESS : GetLastError();
+  }
+  return error == ERROR_SUCCESS;
 }
 
 /// Renames by the handle, so that it is the file that was written whatever happens to its name; false, with
@@ -124,10 +141,13 @@ bool WindowsTarget::rename_written() const {
   return SetFileInformationByHandle(written_.get(), FileRenameInfo, renaming, static_cast<DWORD>(size)) != 0;
 }
 
-void WindowsTarget::finish(Durability durability) {
+bool WindowsTarget::finish(Durability durability) {
   const bool flushed = durability == Durability::kFlushed;
   if (flushed && FlushFileBuffers(written_.get()) == 0) fail("flush");
-  if (!patience_.insist_on_change([this] { return rename_written(); })) fail();
+  if (!patience_.insist_on_change([this] { return rename_written(); })) {
+    if (staged_ && GetLastError() == ERROR_NOT_SAME_DEVICE) return false;
+    fail();
+  }
   WindowsHandle renamed = std::move(written_);
   LARGE_INTEGER size;
   if (GetFileSizeEx(renamed.get(), &size) == 0) fail();
@@ -136,6 +156,7 @@ void WindowsTarget::finish(Durability durability) {
   settle_spelling();
   const DWORD attributes = existing_ ? existing_->attributes & kKeptAttributes : 0;
   remember({name_, attributes, false, static_cast<std::uint64_t>(size.QuadPart)});
+  return true;
 }
 
 /// A name found by its short form, "LONGNA~1", is no other spelling and stays.

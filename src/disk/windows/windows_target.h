@@ -46,13 +46,18 @@ class WindowsTarget {
   /// read-only can't be flushed and counts as being on the disk.
   bool keep(Durability durability);
 
-  /// Creates the neighbour, and returns it open for writing. An error where the file must not be replaced.
-  HANDLE begin();
+  /// Creates the neighbour, and returns it open for writing: in `staging` where that is given and gives its
+  /// files what the file's folder does, else beside the file. An error where the file must not be replaced.
+  HANDLE begin(const std::shared_ptr<WindowsFolder>& staging);
 
-  /// Puts the neighbour in the file's place.
-  void finish(Durability durability);
+  /// Puts the neighbour in the file's place. False where that can't be done from the staging folder, which
+  /// may be mounted apart although it lies on the same disk: then everything is to be written once more,
+  /// without staging.
+  bool finish(Durability durability);
 
  private:
+  bool create(const WindowsFolder& folder);
+  void drop();
   bool rename_written() const;
   bool spelled_otherwise() const;
   bool move(const std::wstring& from, const std::wstring& to) const;
@@ -69,6 +74,7 @@ class WindowsTarget {
   std::shared_ptr<WindowsFolder> in_;
   std::optional<WindowsEntry> existing_;
   WindowsHandle written_;  ///< the neighbour, open to nobody else until it is in its place
+  bool staged_ = false;    ///< it stands in the staging folder
 };
 
 /// Throws ActionError where the attributes mark the file read-only.

@@ -168,8 +168,8 @@ class FileSystem {
   /// folder of N files costs O(N); and it calls `pulse` at least every 1 MiB of a copied file. Copies may be
   /// written in `staging`, a small folder, before they are renamed to their place: in a large one each new
   /// name costs more, and a crash then leaves nothing there. Where that folder is "", can't be written to,
-  /// lies on another disk or gives its files to another group they are written beside their targets. Without
-  /// an Action every call asks the disk afresh. Actions do not nest.
+  /// lies on another disk or gives its files another group or other rights they are written beside their
+  /// targets. Without an Action every call asks the disk afresh. Actions do not nest.
   class Action {
    public:
     explicit Action(FileSystem& files, Pulse pulse = {}, std::string_view staging = {});

@@ -1,15 +1,38 @@
 // Copies that are written in a folder of their own before they are renamed to their place.
 #include <gtest/gtest.h>
-#include <sys/stat.h>
 
 #include "disk/file_system.h"
 #include "support/left_over.h"
 #include "support/temporary_folder.h"
 
+#ifdef _WIN32
+#include <windows.h>
+
+#include <sddl.h>
+
+#include "windows/windows_path.h"
+#else
+#include <sys/stat.h>
+#endif
+
 namespace vorlund {
 namespace {
 
 using Tree = std::map<std::string, std::string>;
+
+/// Lets everybody do everything in the folder.
+void open_to_everybody(const std::string& folder) {
+#ifdef _WIN32
+  PSECURITY_DESCRIPTOR rights = nullptr;
+  ASSERT_NE(ConvertStringSecurityDescriptorToSecurityDescriptorW(L"D:P(A;OICI;FA;;;WD)", SDDL_REVISION_1,
+                                                                 &rights, nullptr),
+            0);
+  EXPECT_NE(SetFileSecurityW(to_wide(folder).c_str(), DACL_SECURITY_INFORMATION, rights), 0);
+  LocalFree(rights);
+#else
+  EXPECT_EQ(::chmod(folder.c_str(), 0777), 0);
+#endif
+}
 
 class Staging : public testing::Test {
  protected:
@@ -84,8 +107,7 @@ TEST_F(Staging, AnActionWithoutOneWritesBesideTheTargetAgain) {
 }
 
 TEST_F(Staging, OfOtherPermissionsItServesNot) {
-  ASSERT_EQ(::chmod((folder_.path() + "/Store").c_str(), 0700), 0);
-  ASSERT_EQ(::chmod((folder_.path() + "/Game").c_str(), 0775), 0);
+  open_to_everybody(folder_.path() + "/Store");
   folder_.write("Store/" + left_over_, "would be swept");
   copy_set(folder_.path("Store"));
   expect_copied({{"Store/" + left_over_, "would be swept"}});
