@@ -13,6 +13,8 @@ namespace vorlund {
 
 namespace {
 
+constexpr std::size_t kMuchFormerText = 1 << 20;
+
 /// Seven bits a byte, the lowest first; all bytes but the last have the highest bit set.
 void append_number(std::string& text, std::size_t number) {
   for (; number >= 0x80; number >>= 7) text.push_back(static_cast<char>(number | 0x80));
@@ -76,6 +78,7 @@ std::uint32_t CellTable::end_of_text() const {
 
 void CellTable::clear_rows() {
   rows_ = {};
+  former_ = 0;
   hidden_.clear();
 }
 
@@ -153,8 +156,22 @@ void CellTable::set_cell(int row, int column, std::string_view text) {
 void CellTable::set_row(int row, const std::vector<std::string>& cells) {
   std::uint32_t& start = rows_.starts_.at(static_cast<std::size_t>(row));
   const std::uint32_t end = end_of_text();
+  former_ += rows_.packed(static_cast<std::size_t>(row)).size();
   pack(*rows_.text_, cells, std::min(cells.size(), static_cast<std::size_t>(columns)));
   start = end;
+  if (former_ > kMuchFormerText && former_ > rows_.text_->size() / 2) leave_former_text();
+}
+
+/// Whoever has kept rows of the former text keeps that.
+void CellTable::leave_former_text() {
+  Rows own;
+  own.starts_.reserve(rows_.size());
+  for (std::size_t row = 0; row < rows_.size(); ++row) {
+    own.starts_.push_back(static_cast<std::uint32_t>(own.text_->size()));
+    own.text_->append(rows_.packed(row));
+  }
+  rows_ = std::move(own);
+  former_ = 0;
 }
 
 }  // namespace vorlund

@@ -9,6 +9,7 @@ namespace vorlund {
 void TableHistory::begin() {
   steps_.clear();
   done_ = 0;
+  bytes_ = 0;
   game_rows_ = game_.G2.rows();
   plane_rows_ = plane_.G1.rows();
   group_ = plane_.G1.flight_model_group;
@@ -34,9 +35,17 @@ void TableHistory::note(std::string_view what) {
   if (step.game.any()) game_rows_ = game_.G2.rows();
   if (step.plane.any()) plane_rows_ = plane_.G1.rows();
   group_ = step.group_after;
-  steps_.resize(done_);
+  for (; steps_.size() > done_; steps_.pop_back()) bytes_ -= steps_.back().bytes();
+  bytes_ += step.bytes();
   steps_.push_back(std::move(step));
-  ++done_;
+  done_ = steps_.size();
+  while (steps_.size() > kMostSteps || (steps_.size() > 1 && bytes_ > most_bytes_)) forget_oldest();
+}
+
+void TableHistory::forget_oldest() {
+  bytes_ -= steps_.front().bytes();
+  steps_.pop_front();
+  --done_;
 }
 
 std::string TableHistory::take_back() {

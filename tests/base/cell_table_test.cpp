@@ -118,5 +118,22 @@ TEST(CellTable, RowsStayAsTheyWereWhateverBecomesOfTheTable) {
   EXPECT_THROW(table.replace_rows(2, 2, middle), std::out_of_range);
 }
 
+TEST(CellTable, TheTextOfFormerRowsIsLeftToWhoeverKeepsThem) {
+  CellTable table;
+  table.columns = 2;
+  table.add_row({"stays", "as it is"});
+  table.add_row({"first", ""});
+  const CellTable::Rows kept = table.rows();
+  const std::string first(kept.packed(1));
+  for (int change = 0; change < 30'000; ++change)
+    table.set_cell(1, 1, std::to_string(change) + std::string(200, '.'));
+  EXPECT_LT(table.rows().bytes_beside(kept), 4U << 20) << "6 MB of text were set";
+  EXPECT_EQ(table.cells(0), (std::vector<std::string>{"stays", "as it is"}));
+  EXPECT_EQ(table.cells(1), (std::vector<std::string>{"first", "29999" + std::string(200, '.')}));
+  EXPECT_EQ(kept.packed(1), first);
+  table.replace_rows(1, 1, kept.part(1, 1));
+  EXPECT_EQ(table.cells(1), (std::vector<std::string>{"first", ""}));
+}
+
 }  // namespace
 }  // namespace vorlund

@@ -225,5 +225,64 @@ TEST_F(TakingBack, SaysWhatItTookBackAndWhereSavesWouldGoAgain) {
   EXPECT_TRUE(said().ends_with("would now go home to Careers at \"Clean Up\"")) << said();
 }
 
+TEST_F(TakingBack, ReachesAThousandChangesBack) {
+  CellTable& table = form->game.G2;
+  TableHistory history(form->game, form->plane);
+  table.add_row({"Sounds", "0"});
+  const int row = table.row_count() - 1;
+  history.begin();
+  for (int change = 1; change <= 1'200; ++change) {
+    table.set_cell(row, GameTable::kFolder, std::to_string(change));
+    history.note("a change");
+  }
+  int taken_back = 0;
+  while (!history.take_back().empty()) ++taken_back;
+  EXPECT_EQ(taken_back, 1'000);
+  EXPECT_EQ(table.cell(row, GameTable::kFolder), "200");
+  while (!history.do_again().empty()) --taken_back;
+  EXPECT_EQ(taken_back, 0);
+  EXPECT_EQ(table.cell(row, GameTable::kFolder), "1200");
+}
+
+TEST_F(TakingBack, ForgetsTheOldestOfLargeTables) {
+  CellTable& table = form->game.G2;
+  constexpr std::size_t kLarge = 1 << 20;
+  TableHistory history(form->game, form->plane, 3 * kLarge);
+  const auto load = [&](const std::string& name) {
+    const std::vector<std::string> header = table.cells(0);
+    table.clear_rows();
+    table.add_row(header);
+    table.add_row({name, std::string(kLarge, '.')});
+    history.note(name);
+  };
+  load("one");
+  history.begin();
+  for (const char* name : {"two", "three", "four", "five"}) load(name);
+  EXPECT_EQ(history.take_back(), "five");
+  EXPECT_EQ(history.take_back(), "four");
+  EXPECT_EQ(history.take_back(), "");
+  EXPECT_EQ(table.cell(1, GameTable::kGroup), "three");
+  load("six");
+  EXPECT_EQ(history.do_again(), "") << "what was taken back is forgotten";
+  EXPECT_EQ(history.take_back(), "six");
+  EXPECT_EQ(history.take_back(), "");
+}
+
+TEST_F(TakingBack, KeepsTheLastStepOfATableHoweverLarge) {
+  CellTable& table = form->game.G2;
+  TableHistory history(form->game, form->plane, 1);
+  history.begin();
+  const std::vector<std::string> header = table.cells(0);
+  for (const char* name : {"one", "two"}) {
+    table.clear_rows();
+    table.add_row(header);
+    table.add_row({name, "folder"});
+    history.note(name);
+  }
+  EXPECT_EQ(history.take_back(), "two");
+  EXPECT_EQ(table.cell(1, GameTable::kGroup), "one");
+  EXPECT_EQ(history.take_back(), "");
+}
+
 }  // namespace
 }  // namespace vorlund

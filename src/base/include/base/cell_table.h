@@ -14,9 +14,10 @@ namespace vorlund {
 /// table, because installing depends on the one and filling on the other.
 ///
 /// Records come from other players too, and may have tens of millions of rows: a row takes four bytes, a bit
-/// and its text, in which each cell takes one byte more (two from 128 bytes on). The text only grows until
-/// the table is cleared, so rows can be kept as they were without a copy of their text. One of 4 GiB or more
-/// counts as exhausted memory: std::bad_alloc.
+/// and its text, in which each cell takes one byte more (two from 128 bytes on). A row that is set gets a new
+/// text behind the others, so rows can be kept as they were without a copy of theirs; once most of the text
+/// is that of former rows the table goes on with a text of its own. One of 4 GiB or more counts as exhausted
+/// memory: std::bad_alloc.
 class CellTable {
  public:
   /// Rows as they were at a time, whatever became of the table since.
@@ -31,6 +32,11 @@ class CellTable {
     /// True for rows of one table between which nothing was changed.
     [[nodiscard]] bool is(const Rows& other) const {
       return text_ == other.text_ && starts_ == other.starts_;
+    }
+
+    /// Bytes of text that would be given back without these rows, where the other ones are kept.
+    [[nodiscard]] std::size_t bytes_beside(const Rows& other) const {
+      return text_ == other.text_ ? 0 : text_->capacity();
     }
 
     /// All cells of a row in one text, which is the same for two rows where their cells are. It stands until
@@ -82,9 +88,11 @@ class CellTable {
   [[nodiscard]] std::uint32_t end_of_text() const;
   template <typename Cells>
   void add_packed(const Cells& cells);
+  void leave_former_text();
 
   Rows rows_;
   std::vector<bool> hidden_;
+  std::size_t former_ = 0;  ///< bytes of text of rows that were set since
 };
 
 }  // namespace vorlund

@@ -215,7 +215,7 @@ class Form1 {
   }
 
   /// Ctrl+Z and Ctrl+Y: takes the last change of the tables since the start or the clean-up back, and does it
-  /// again. In memory alone; files are as they were.
+  /// again; a thousand at most. In memory alone; files are as they were.
   void take_back();
   void do_again();
 

@@ -2,9 +2,9 @@
 #pragma once
 
 #include <cstddef>
+#include <deque>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "panes/game_pane.h"
 #include "panes/plane_pane.h"
@@ -12,11 +12,16 @@
 namespace vorlund {
 
 /// Steps of the game table, of the plane table and of its flight-model group, in memory alone: no file is
-/// touched. Only the rows that a step has changed are kept.
+/// touched. Only the rows that a step has changed are kept, of the last kMostSteps steps, or of fewer where
+/// those would take more text beside the tables' own than is given; the last step is always kept.
 class TableHistory {
  public:
-  /// Both outlive the history.
-  TableHistory(GamePane& game, PlanePane& plane) : game_(game), plane_(plane) {}
+  static constexpr std::size_t kMostSteps = 1000;
+  static constexpr std::size_t kMostBytes = std::size_t{256} << 20;
+
+  /// The panes outlive the history.
+  TableHistory(GamePane& game, PlanePane& plane, std::size_t most_bytes = kMostBytes)
+      : game_(game), plane_(plane), most_bytes_(most_bytes) {}
 
   /// Forgets all steps; what the tables hold now is the beginning.
   void begin();
@@ -47,19 +52,25 @@ class TableHistory {
     Change plane;
     std::string group_before;
     std::string group_after;
+    [[nodiscard]] std::size_t bytes() const {
+      return game.before.bytes_beside(game.after) + plane.before.bytes_beside(plane.after);
+    }
   };
   enum class Direction { kBack, kForth };
 
   static Change change_between(const Rows& before, const Rows& after);
   void apply(const Step& step, Direction direction);
+  void forget_oldest();
 
   GamePane& game_;
   PlanePane& plane_;
+  std::size_t most_bytes_;
   Rows game_rows_;  ///< as the last step left them
   Rows plane_rows_;
   std::string group_;
-  std::vector<Step> steps_;
-  std::size_t done_ = 0;  ///< steps that are not taken back
+  std::deque<Step> steps_;
+  std::size_t done_ = 0;   ///< steps that are not taken back
+  std::size_t bytes_ = 0;  ///< of all steps
 };
 
 }  // namespace vorlund
