@@ -13,23 +13,18 @@ namespace {
 constexpr int kLeastHeight = 34;
 constexpr int kAroundText = 16;  // pixels above and below a text of several lines
 
-QLabel* plain_text(const char* name, QWidget* parent) {
-  auto* label = new QLabel(parent);
-  label->setObjectName(name);
-  label->setTextFormat(Qt::PlainText);
-  return label;
-}
-
 }  // namespace
 
 StatusBar::StatusBar(QWidget* parent)
     : QWidget(parent),
-      text_(plain_text("StatusLine", this)),
-      progress_text_(plain_text("ProgressFile", this)),
+      text_(new QLabel(this)),
+      progress_text_(new TextLabel("ProgressFile", TextLabel::Tone::kPlain, this)),
       progress_bar_(new QProgressBar(this)),
       help_(new ActionLabel("HelpLabel", ActionLabel::Look::kRow, this)) {
   setStyleSheet("background: #111820;");
   setAttribute(Qt::WA_StyledBackground);
+  text_->setObjectName("StatusLine");
+  text_->setTextFormat(Qt::PlainText);
   text_->setWordWrap(true);
   text_->setTextInteractionFlags(Qt::TextSelectableByMouse);
   progress_bar_->setObjectName("Progress");
@@ -41,7 +36,7 @@ StatusBar::StatusBar(QWidget* parent)
   auto* layout = new QHBoxLayout(this);
   layout->setContentsMargins(18, 0, 18, 0);
   layout->addWidget(text_, 1);
-  layout->addWidget(progress_text_);
+  layout->addWidget(progress_text_, 1);
   layout->addWidget(progress_bar_);
   layout->addWidget(help_);
   end_progress();

@@ -130,6 +130,18 @@ TEST_F(Working, ALookThatTakesLongShowsItsProgress) {
   EXPECT_FALSE(widget("Progress")->isVisible());
 }
 
+TEST_F(Working, TheWayToTheHelpStaysWhereItIsHoweverLongAFilesName) {
+  const QRect place = widget("HelpLabel")->geometry();
+  folder_.write("~Vorlund/GameStore/Sky/Dusk/" + std::string(200, 'W') + ".pal", "long");
+  QRect meanwhile;
+  files_.in_the_midst = [&] {
+    QTest::qSleep(60);
+    if (widget("Progress")->isVisible()) meanwhile = meanwhile.united(widget("HelpLabel")->geometry());
+  };
+  click("GameLoad");
+  EXPECT_EQ(meanwhile, place);
+}
+
 TEST_F(Working, ClosingTheWindowIsDoneWhenTheActionHasEnded) {
   QString said;
   files_.in_the_midst = [&] {

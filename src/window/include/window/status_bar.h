@@ -7,6 +7,7 @@
 #include <QWidget>
 
 #include "window/action_label.h"
+#include "window/text_label.h"
 
 namespace vorlund {
 
@@ -35,7 +36,7 @@ class StatusBar : public QWidget {
 
  private:
   QLabel* text_;
-  QLabel* progress_text_;
+  TextLabel* progress_text_;
   QProgressBar* progress_bar_;
   ActionLabel* help_;
 };
