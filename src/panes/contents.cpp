@@ -257,10 +257,11 @@ class Composer {
 
   /// The remarks that an action says in the end: all lines but the first, which sums up.
   void add_remarks(const std::string& action, const Forecast& forecast) {
-    const std::string command = action == "Clean Up" ? "\"Clean Up\"" : "\"Process!\"";
+    const bool cleans = action == "Clean Up";
+    const std::string command = cleans ? "\"Clean Up\"" : "\"Process!\"";
     if (!forecast.stops.empty()) {
       add_remark(action, command + " would stop: " + forecast.stops);
-      sentences_.push_back(command + " of the " + action + " would stop: " + forecast.stops);
+      sentences_.push_back(command + (cleans ? "" : " of the " + action) + " would stop: " + forecast.stops);
     }
     bool first = true;
     for (const std::string_view line : split_lines(forecast.said)) {

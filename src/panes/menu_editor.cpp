@@ -1,6 +1,7 @@
 // Derives the pane's captions from the menu.
 #include "panes/menu_editor.h"
 
+#include <algorithm>
 #include <string>
 
 namespace vorlund {
@@ -17,10 +18,9 @@ std::string byte_numbers(std::string_view bytes) {
 }  // namespace
 
 Country MenuEditor::selected_country() const {
-  for (const Country country : kCountries) {
-    if (CountryBut[static_cast<std::size_t>(country)].checked) return country;
-  }
-  return Country::kBritish;
+  const auto selected =
+      std::find_if(CountryBut.begin(), CountryBut.end(), [](const Choice& button) { return button.checked; });
+  return static_cast<Country>(selected - CountryBut.begin());
 }
 
 void MenuEditor::select_country(Country country) {

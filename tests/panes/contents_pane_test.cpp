@@ -176,6 +176,46 @@ TEST_F(ContentsPaneTest, SelectedRowsAreCopiedAsText) {
       "File\tComes from\tWins over\tState\tSize\nclouds.spt\trow 3: Tweaks\\Smoke\t\tin place\t6 bytes");
 }
 
+TEST_F(ContentsPaneTest, WithoutASelectionAllRowsAreCopied) {
+  ContentsPane& pane = look();
+  form->ContentsKinds_Click(static_cast<int>(ContentsKind::kMissing));
+  form->ContentsCopy_Click();
+  EXPECT_EQ(pane.to_copy,
+            "File\tComes from\tWins over\tState\tSize\n"
+            "sky.pal\trow 3: Tweaks\\Smoke\trow 2: Sky\\Dawn\tmissing\t5 bytes\n"
+            "smoke.dat\trow 3: Tweaks\\Smoke\t\tmissing\t5 bytes");
+  EXPECT_EQ(form->desk.status_line.caption, "2 rows were copied");
+  form->ContentsTable_Select({1});
+  form->ContentsCopy_Click();
+  EXPECT_EQ(form->desk.status_line.caption, "1 row was copied");
+}
+
+TEST_F(ContentsPaneTest, WhatIsNotInTheListsCannotBeChosen) {
+  ContentsPane& pane = look();
+  form->ContentsKinds_Click(static_cast<int>(ContentsKind::kMissing));
+  for (const int kind : {-1, static_cast<int>(pane.ContentsKinds.items.size())}) {
+    form->ContentsKinds_Click(kind);
+    EXPECT_EQ(pane.line_count(), 2);
+  }
+  form->ContentsTable_Select({-1, 1, 2});
+  EXPECT_EQ(pane.selected(), std::vector<int>{1});
+  form->ContentsTable_Select({2});
+  EXPECT_TRUE(pane.selected().empty());
+  EXPECT_TRUE(pane.ContentsChain.items.empty());
+}
+
+TEST_F(ContentsPaneTest, AnotherHeadingSortsUpwardsAgain) {
+  ContentsPane& pane = look();
+  const int name = static_cast<int>(Column::kFile);
+  form->ContentsTable_Sort(name);
+  EXPECT_TRUE(pane.is_descending());
+  form->ContentsTable_Sort(static_cast<int>(Column::kSize));
+  EXPECT_FALSE(pane.is_descending());
+  form->ContentsTable_Sort(name);
+  EXPECT_FALSE(pane.is_descending());
+  EXPECT_EQ(pane.cell(0, Column::kFile), "clouds.spt");
+}
+
 TEST_F(ContentsPaneTest, NothingIsWrittenAndNoTableChanges) {
   start();
   const auto before = folder.tree();
@@ -227,6 +267,27 @@ TEST_F(ContentsPaneTest, TheGameTableMarksWhoWinsOverTheSelectedRow) {
   form->Label29_Click();
   EXPECT_EQ(game.G2.current_row, 3);
   EXPECT_EQ(game.mark(2), "\u25BD 2");
+}
+
+TEST_F(ContentsPaneTest, ARowWhoseFilesAreAllReplacedCouldGo) {
+  store("Tweaks/Fire/sky.pal", "fire");
+  store("Tweaks/Fire/clouds.spt", "fire");
+  store("Tweaks/Last/sky.pal", "last");
+  folder.write("~Vorlund/CurrentGameSet.txt",
+               "Folder group\tFolder name\r\nTweaks\tLast\r\nSky\tDusk\r\nTweaks\tFire\r\n");
+  start();
+  form->WhatsLoaded_Click();
+  const GamePane& game = form->game;
+  EXPECT_EQ(game.mark(1), "could go");
+  EXPECT_EQ(game.mark_in_words(1), "Later rows replace every file of this row: it could go.");
+  EXPECT_EQ(game.mark(3), "");
+  EXPECT_EQ(game.mark_in_words(3), "");
+  form->G2_Click(3);
+  EXPECT_EQ(game.mark(1), "\u25BD 1  could go");
+  EXPECT_EQ(
+      game.mark_in_words(1),
+      "The selected row replaces 1 file of this row.\nLater rows replace every file of this row: it could "
+      "go.");
 }
 
 /// Leaves at the second file.

@@ -152,5 +152,18 @@ TEST_F(AircraftPane, ProcessThatFailsLeavesTheRecordAsItWas) {
   EXPECT_EQ(work.said(), "");
 }
 
+TEST_F(AircraftPane, SaysHowManySlotsAreShown) {
+  const auto said_of_switching = [this] {
+    form.Label30_Click();
+    return form.desk.status_line.caption;
+  };
+  pane.G1.fill_slots();
+  if (!pane.G1.shows_all) said_of_switching();
+  EXPECT_EQ(said_of_switching(), "No slot is in use");
+  EXPECT_EQ(said_of_switching(), "All slots are shown");
+  pane.G1.set_cell(3, PlaneTable::kScriptFolder, "Mk9");
+  EXPECT_EQ(said_of_switching(), "1 slot that is in use is shown");
+}
+
 }  // namespace
 }  // namespace vorlund

@@ -45,6 +45,7 @@ class MenuEditor {
   void hide();
 
  private:
+  /// One country button is always set.
   [[nodiscard]] Country selected_country() const;
   void show_bytes();
 
