@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+
 #include "base/action_error.h"
 #include "support/temporary_folder.h"
 #include "support/tree_of.h"
@@ -166,6 +168,50 @@ TEST_F(DryRun, AnErrorIsTheOneOfTheRealRun) {
   EXPECT_EQ(what(dry_, "folder", "target"), what(*disk_, "folder", "target"));
 }
 
+TEST_F(DryRun, WhatItHasRemovedIsThereNoMore) {
+  folder_.write("save", "career");
+  folder_.write("other", "x");
+  remove("save");
+  EXPECT_FALSE(dry_.FileExists(folder_.path("save")));
+  EXPECT_FALSE(dry_.is_there(folder_.path("save")));
+  EXPECT_THROW(read("save"), ActionError);
+  EXPECT_THROW(remove("save"), ActionError);
+  EXPECT_THROW(copy("save", "target"), ActionError);
+  EXPECT_EQ(states(), Words{"save: deleted, 6"});
+  copy("other", "save");
+  EXPECT_EQ(read("save"), "x");
+}
+
+TEST_F(DryRun, ComposedBytesAreComparedWhereTheyAreCopied) {
+  folder_.make_folder("Game");
+  replace("one", "same");
+  replace("two", "same");
+  replace("three", "more");
+  const auto outcome = [this](const char* source) {
+    return dry_.copy_file(folder_.path(source), folder_.path("Game\\file"), Durability::kCached);
+  };
+  EXPECT_EQ(outcome("one"), CopyOutcome::kWritten);
+  EXPECT_EQ(outcome("two"), CopyOutcome::kUnchanged);
+  EXPECT_EQ(outcome("three"), CopyOutcome::kWritten);
+  EXPECT_EQ(read("Game\\file"), "more");
+}
+
+TEST_F(DryRun, FilesOfOneSizeAreComparedToTheirEnds) {
+  const std::string bytes(200'000, '.');
+  std::string other = bytes;
+  other.back() = '!';
+  folder_.write("one", bytes);
+  folder_.write("other", other);
+  folder_.write("Game/file", "old");
+  copy("one", "Game\\file");
+  EXPECT_EQ(dry_.foresee_copy(folder_.path("one"), folder_.path("Game\\file")).outcome,
+            CopyOutcome::kUnchanged);
+  EXPECT_EQ(dry_.foresee_copy(folder_.path("other"), folder_.path("Game\\file")).outcome,
+            CopyOutcome::kWritten);
+  EXPECT_EQ(dry_.foresee_copy(folder_.path("one"), folder_.path("Game\\FILE")).outcome, CopyOutcome::kWritten)
+      << "it is spelled otherwise";
+}
+
 TEST_F(DryRun, StartsNoProgram) {
   folder_.write("eaw.exe", "x");
   EXPECT_THROW(dry_.start_program(folder_.path("eaw.exe"), folder_.path()), ActionError);
@@ -193,6 +239,22 @@ TEST_F(DryRun, OfSeveralSpellingsThoseThatWouldGoAreToldApart) {
   for (const char* name : {"Set/File.dat", "Set/FILE.DAT", "Set/file.dat"}) folder_.write(name, "same");
   copy("source", "Set\\FILE.DAT");
   EXPECT_EQ(states(), (Words{"FILE.DAT: in place, 4", "File.dat: deleted, 4", "file.dat: deleted, 4"}));
+}
+
+TEST_F(DryRun, AFolderOfTheSameNameIsNoFile) {
+  folder_.make_folder("Name");
+  folder_.write("name", "file");
+  remove("name");
+  EXPECT_FALSE(dry_.FileExists(folder_.path("name")));
+  for (const auto& work : std::vector<std::function<void()>>{
+           [this] { read("name"); }, [this] { remove("name"); }, [this] { replace("name", "new"); }}) {
+    try {
+      work();
+      ADD_FAILURE() << "no error";
+    } catch (const ActionError& error) {
+      EXPECT_EQ(error.reason(), kIsFolder);
+    }
+  }
 }
 
 TEST_F(DryRun, AFolderThatALinkLeadsToIsOneWithItsOwnPath) {

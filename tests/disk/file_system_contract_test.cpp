@@ -8,6 +8,7 @@
 #include "base/text.h"
 #include "disk/dry_run_file_system.h"
 #include "disk/file_system.h"
+#include "disk/process_number.h"
 #include "support/faulty_file_system.h"
 #include "support/forwarding_file_system.h"
 #include "support/left_over.h"
@@ -546,6 +547,12 @@ TEST(StagingNames, AreToldFromNamesThatOnlyLookAlike) {
     EXPECT_FALSE(is_left_over(name)) << name;
     EXPECT_FALSE(is_staging_name_of_another(name)) << name;
   }
+  // Of another platform's processes nothing is known.
+  const std::string elsewhere =
+      std::string("~vorlund-") + (kPlatformLetter == 'p' ? 'w' : 'p') + "7ffffffe-0.bak";
+  EXPECT_TRUE(is_staging_name(elsewhere));
+  EXPECT_FALSE(is_left_over(elsewhere));
+  EXPECT_FALSE(is_staging_name_of_another(elsewhere));
   EXPECT_FALSE(is_staging_name_of_another(staging_name(0)));
   EXPECT_FALSE(is_left_over(staging_name(0)));
 }

@@ -138,5 +138,17 @@ TEST_F(CleanUpFiles, DeleteTheDefaultMissions) {
   EXPECT_EQ(delete_default_missions(game), 0U);
 }
 
+TEST(CleanUpSentence, TellsOfWhatThereWas) {
+  CleanUpSummary summary;
+  EXPECT_EQ(summary.sentence(), "There was nothing to clean up");
+  summary.deleted = 1;
+  EXPECT_EQ(summary.sentence(), "1 loose file deleted");
+  summary.careers = 2;
+  summary.home = "Camp1";
+  EXPECT_EQ(summary.sentence(), "2 career saves brought home to Camp1; 1 loose file deleted");
+  summary.deleted = 0;
+  EXPECT_EQ(summary.sentence(), "2 career saves brought home to Camp1");
+}
+
 }  // namespace
 }  // namespace vorlund

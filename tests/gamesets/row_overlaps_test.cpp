@@ -38,6 +38,10 @@ TEST_F(RowOverlapsTest, CountsTheFilesThatTwoRowsWriteInAnySpelling) {
   EXPECT_EQ(rows.shared_files(1, 3), 0);
   EXPECT_EQ(rows.shared_files(1, 4), 0);
   EXPECT_EQ(rows.shared_files(7, 9), 0);
+  for (const int none : {-1, 5}) {
+    EXPECT_EQ(rows.shared_files(none, 1), 0);
+    EXPECT_EQ(rows.shared_files(1, none), 0);
+  }
   for (int row = -1; row < 6; ++row) EXPECT_FALSE(rows.could_go(row)) << row;
 }
 
