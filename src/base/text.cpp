@@ -2,6 +2,7 @@
 #include "base/text.h"
 
 #include <algorithm>
+#include <cstring>
 
 #include "base/leading_number.h"
 #include "base/utf8.h"
@@ -17,7 +18,9 @@ bool continues(std::string_view text, std::size_t at) {
 /// Position of the first character that is not spelled by the same bytes in both texts.
 std::size_t common_beginning(std::string_view a, std::string_view b) {
   const std::size_t shorter = std::min(a.size(), b.size());
+  constexpr std::size_t kStep = 8;
   std::size_t at = 0;
+  while (at + kStep <= shorter && std::memcmp(a.data() + at, b.data() + at, kStep) == 0) at += kStep;
   while (at < shorter && a[at] == b[at]) ++at;
   while (at > 0 && (continues(a, at) || continues(b, at))) --at;
   return at;
@@ -45,16 +48,23 @@ std::size_t advance(std::string_view text, std::size_t at, std::size_t count) {
 }  // namespace
 
 std::string to_upper(std::string_view text) {
-  std::string upper;
-  upper.reserve(text.size());
-  for (std::size_t at = 0; at < text.size();) {
+  std::string upper(text);
+  const auto is_long = [](char character) { return static_cast<unsigned char>(character) >= 0x80; };
+  const auto end = std::find_if(upper.begin(), upper.end(), is_long);
+  const auto upper_byte = [](char character) {
+    return static_cast<char>(upper_character(static_cast<unsigned char>(character)));
+  };
+  std::transform(upper.begin(), end, upper.begin(), upper_byte);
+  upper.erase(end, upper.end());
+  for (std::size_t at = upper.size(); at < text.size();) {
     append_character(upper, upper_character(next_character(text, at)));
   }
   return upper;
 }
 
 bool same_name(std::string_view a, std::string_view b) {
-  return compare_folded(a, b) == 0;
+  // An upper-case letter has as many bytes as the letter.
+  return a.size() == b.size() && compare_folded(a, b) == 0;
 }
 
 bool name_less(std::string_view a, std::string_view b) {

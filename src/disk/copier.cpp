@@ -33,8 +33,8 @@ const std::vector<std::string>& ListedAhead::names() const {
 }
 
 bool must_be_flushed(std::string_view path) {
-  if (same_name(last_characters(path, 4), ".SVE")) return true;
   const std::string_view name = bare_name(path);
+  if (to_upper(name).ends_with(".SVE")) return true;
   return std::any_of(kNeeded.begin(), kNeeded.end(),
                      [name](std::string_view needed) { return same_name(name, needed.substr(1)); });
 }

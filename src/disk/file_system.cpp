@@ -19,8 +19,11 @@ namespace {
 constexpr std::string_view kStagingBegin = "~vorlund-";
 constexpr std::string_view kStagingEnd = ".bak";
 
+/// Of a number of 32 bits.
+constexpr std::size_t kMostDigits = 8;
+
 std::string hexadecimal(std::uint32_t number) {
-  std::array<char, 8> digits{};
+  std::array<char, kMostDigits> digits{};
   char* const end = std::to_chars(digits.data(), digits.data() + digits.size(), number, 16).ptr;
   return {digits.data(), end};
 }
@@ -83,12 +86,11 @@ FileSystem::Action::~Action() {
 }
 
 std::string staging_name(unsigned attempt) {
-  std::string name(kStagingBegin);
-  name += kPlatformLetter;
-  return name.append(hexadecimal(own_process_number()))
-      .append("-")
-      .append(hexadecimal(attempt))
-      .append(kStagingEnd);
+  static const std::string begin =
+      std::string(kStagingBegin).append(1, kPlatformLetter).append(hexadecimal(own_process_number())) + "-";
+  std::string name;
+  name.reserve(begin.size() + kMostDigits + kStagingEnd.size());
+  return name.append(begin).append(hexadecimal(attempt)).append(kStagingEnd);
 }
 
 bool is_staging_name(std::string_view name) {

@@ -6,6 +6,8 @@
 #include <clocale>
 #include <limits>
 
+#include "base/utf8.h"
+
 namespace vorlund {
 namespace {
 
@@ -44,6 +46,16 @@ TEST(Text, UpperCaseTakesOneCharacterForOne) {
   }
 }
 
+TEST(Text, AnUpperCaseLetterHasAsManyBytesAsTheLetter) {
+  for (char32_t character = 0; character < kStrayByte + 0x100; ++character) {
+    std::string text;
+    std::string upper;
+    append_character(text, character);
+    append_character(upper, upper_character(character));
+    ASSERT_EQ(upper.size(), text.size()) << static_cast<std::uint32_t>(character);
+  }
+}
+
 TEST(Text, NamesAreTheSameWithoutRegardToCase) {
   for (const UpperCase& sample : kUpperCases) {
     EXPECT_TRUE(same_name(sample.text, sample.upper)) << sample.text;
@@ -57,10 +69,34 @@ TEST(Text, NamesAreTheSameWithoutRegardToCase) {
 }
 
 TEST(Text, NamesAreOrderedWithoutRegardToCaseAndThenByBytes) {
-  constexpr std::string_view kOrdered[] = {"",       " ",      "1.dat",  "A",       "a",          "a.dat",
-                                           "AB",     "Ab",     "aB",     "ab",      "abc",        "B",
-                                           "zebra",  "_x",     "\u00C4", "\u00E4",  "\u00E9cole", "\u0416",
-                                           "\u65E5", "\uFFFD", "\xC3",   "\xE9.dat"};
+  constexpr std::string_view kOrdered[] = {"",
+                                           " ",
+                                           "1.dat",
+                                           "A",
+                                           "a",
+                                           "a.dat",
+                                           "AB",
+                                           "Ab",
+                                           "aB",
+                                           "ab",
+                                           "abc",
+                                           "abcdefghI",
+                                           "abcdefghi",
+                                           "abcdefghij",
+                                           "abcdefgh\u00C4",
+                                           "abcdefgh\u00E4",
+                                           "abcdefgh\u0104",
+                                           "B",
+                                           "zebra",
+                                           "_x",
+                                           "\u00C4",
+                                           "\u00E4",
+                                           "\u00E9cole",
+                                           "\u0416",
+                                           "\u65E5",
+                                           "\uFFFD",
+                                           "\xC3",
+                                           "\xE9.dat"};
   const std::size_t count = std::size(kOrdered);
   for (std::size_t first = 0; first < count; ++first) {
     for (std::size_t second = 0; second < count; ++second) {

@@ -87,13 +87,13 @@ class PosixFileSystem final : public FileSystem {
 };
 
 PosixFileSystem::Place PosixFileSystem::place_of(std::string_view path, EntryKind kind) {
-  SplitPath parts = split_path(path);
+  const SplitPath parts = split_path(path);
   const bool folder_only = !path.empty() && (path.back() == '\\' || path.back() == '/');
   if (parts.name.empty() || (folder_only && kind == EntryKind::kFile)) {
     errno = ENOENT;
     return {};
   }
-  return {folders_.open(parts.folder), std::move(parts.name)};
+  return {folders_.open(parts.folder), std::string(parts.name)};
 }
 
 template <typename Attempt>

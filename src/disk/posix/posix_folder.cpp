@@ -24,32 +24,14 @@ constexpr std::size_t kFoldersKept = 16;
 
 SplitPath split_path(std::string_view path) {
   if (path.empty() || path.find('\0') != std::string_view::npos) return {};
-  const auto is_separator = [](char character) { return character == '\\' || character == '/'; };
-  std::string whole;
-  whole.reserve(path.size());
-  if (is_separator(path.front())) whole += '/';
-  for (std::size_t at = 0; at < path.size();) {
-    if (is_separator(path[at])) {
-      ++at;
-      continue;
-    }
-    const auto end = static_cast<std::size_t>(
-        std::find_if(path.begin() + static_cast<std::ptrdiff_t>(at), path.end(), is_separator) -
-        path.begin());
-    const std::string_view part = path.substr(at, end - at);
-    if (part != ".") {
-      if (!whole.empty() && whole.back() != '/') whole += '/';
-      whole += part;
-    }
-    at = end;
+  SplitPath parts{path, "."};
+  while (parts.name == ".") {
+    const std::size_t last = parts.folder.find_last_not_of("\\/");
+    if (last == std::string_view::npos) break;
+    const std::size_t begin = std::max(parts.folder.rfind('\\', last) + 1, parts.folder.rfind('/', last) + 1);
+    parts = {path.substr(0, begin), path.substr(begin, last + 1 - begin)};
   }
-
-  const std::size_t slash = whole.rfind('/');
-  if (slash == std::string::npos) return {".", whole.empty() ? "." : whole};
-  if (whole.size() == 1) return {"/", "."};
-  std::string name = whole.substr(slash + 1);
-  whole.resize(slash == 0 ? 1 : slash);
-  return {std::move(whole), std::move(name)};
+  return parts;
 }
 
 std::string join_path(std::string_view folder, std::string_view name) {
@@ -91,14 +73,10 @@ bool PosixFolder::may_be_changed() const {
 }
 
 void PosixFolder::Names::add(std::string_view name) {
-  if (!first.emplace(name).second) further.emplace(name);
-}
-
-bool PosixFolder::Names::has(std::string_view name) const {
-  const auto found = first.find(name);
-  if (found == first.end()) return false;
+  const auto [remembered, is_new] = first.emplace(name);
+  if (is_new || *remembered == name) return;
   const auto [begin, end] = further.equal_range(name);
-  return *found == name || std::find(begin, end, name) != end;
+  if (std::find(begin, end, name) == end) further.emplace(name);
 }
 
 bool PosixFolder::remember_names() {
@@ -164,7 +142,7 @@ void PosixFolder::sweep_left_overs() {
 }
 
 void PosixFolder::name_added(std::string_view name) {
-  if (names_ && !names_->has(name)) names_->add(name);
+  if (names_) names_->add(name);
 }
 
 void PosixFolder::name_removed(std::string_view name) {
@@ -194,20 +172,23 @@ void PosixFolders::forget() {
   kept_.clear();
 }
 
-std::shared_ptr<PosixFolder> PosixFolders::open(const std::string& path) {
+std::shared_ptr<PosixFolder> PosixFolders::open(std::string_view path) {
   if (auto folder = kept(path)) return folder;
 
-  FileHandle handle = open_folder_at(AT_FDCWD, path.c_str());
-  if (handle.is_open()) return keep(path, std::move(handle), path);
+  std::string spelled(path.empty() ? "." : path);
+  std::replace(spelled.begin(), spelled.end(), '\\', '/');
+  spelled.resize(std::max<std::size_t>(spelled.find_last_not_of('/') + 1, 1));
+  FileHandle handle = open_folder_at(AT_FDCWD, spelled.c_str());
+  if (handle.is_open()) return keep(path, std::move(handle), std::move(spelled));
   const SplitPath parts = split_path(path);
   if (errno != ENOENT || parts.name == ".") return nullptr;
 
   const auto parent = open(parts.folder);
   if (!parent) return nullptr;
-  std::string spelled = parts.name;
+  spelled = parts.name;
   handle = open_folder_at(parent->descriptor(), spelled.c_str());
   if (!handle.is_open() && errno == ENOENT) {
-    const auto other = parent->other_spelling(parts.name);
+    const auto other = parent->other_spelling(spelled);
     if (!other) return nullptr;
     spelled = *other;
     handle = open_folder_at(parent->descriptor(), spelled.c_str());
@@ -224,7 +205,7 @@ std::shared_ptr<PosixFolder> PosixFolders::kept(std::string_view path) {
   return found->folder;
 }
 
-std::shared_ptr<PosixFolder> PosixFolders::keep(const std::string& path, FileHandle handle,
+std::shared_ptr<PosixFolder> PosixFolders::keep(std::string_view path, FileHandle handle,
                                                 std::string spelled) {
   if (!remembering_) {
     return std::make_shared<PosixFolder>(std::move(handle), std::move(spelled), PosixFolder::Memory::kFresh);
@@ -237,7 +218,7 @@ std::shared_ptr<PosixFolder> PosixFolders::keep(const std::string& path, FileHan
   auto folder = same != kept_.end() ? same->folder
                                     : std::make_shared<PosixFolder>(std::move(handle), std::move(spelled),
                                                                     PosixFolder::Memory::kRemembered);
-  kept_.push_front({path, status.st_dev, status.st_ino, folder});
+  kept_.push_front({std::string(path), status.st_dev, status.st_ino, folder});
   if (kept_.size() > kFoldersKept) kept_.pop_back();
   return folder;
 }

@@ -17,13 +17,14 @@
 
 namespace vorlund {
 
-/// A path cut before its last name. Both parts have single slashes, no "." and no slash at their ends.
+/// A path cut before its last name: separators and parts "." behind that are left out.
 struct SplitPath {
-  std::string folder;  ///< "." for the current folder, "/" for the root
-  std::string name;    ///< "." for the current folder or the root itself
+  std::string_view folder;  ///< as the path spells it, with its separator; "" for the current folder
+  std::string_view name;    ///< "." for the current folder or the root itself
 };
 
-/// Takes a path of the program apart. A path that no file can have (empty, with a NUL) gives an empty name.
+/// Takes a path of the program apart, whose text the parts are of. A path that no file can have (empty, with
+/// a NUL) gives an empty name.
 SplitPath split_path(std::string_view path);
 
 /// The folder, which is not "", and the name joined again.
@@ -85,8 +86,8 @@ class PosixFolder {
     bool operator()(std::string_view a, std::string_view b) const;
   };
   struct Names {
+    /// Takes up a spelling, once.
     void add(std::string_view name);
-    bool has(std::string_view name) const;
 
     std::unordered_set<std::string, HashName, SameName> first;  ///< one spelling of each name
     std::unordered_multiset<std::string, HashName, SameName>
@@ -114,8 +115,8 @@ class PosixFolders {
   void remember() { remembering_ = true; }
   void forget();
 
-  /// The folder of a path as `split_path` gives it; none, with errno, when there is no such folder.
-  std::shared_ptr<PosixFolder> open(const std::string& path);
+  /// The folder of a path, "" for the current folder; none, with errno, when there is no such folder.
+  std::shared_ptr<PosixFolder> open(std::string_view path);
 
  private:
   struct Kept {
@@ -126,7 +127,7 @@ class PosixFolders {
   };
 
   std::shared_ptr<PosixFolder> kept(std::string_view path);
-  std::shared_ptr<PosixFolder> keep(const std::string& path, FileHandle handle, std::string spelled);
+  std::shared_ptr<PosixFolder> keep(std::string_view path, FileHandle handle, std::string spelled);
 
   bool remembering_ = false;
   std::list<Kept> kept_;  ///< the one used last in front

@@ -136,7 +136,7 @@ bool PosixTarget::create(const std::shared_ptr<PosixFolder>& folder, mode_t mode
         open_at(folder->descriptor(), neighbour.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW, mode);
     if (!written_.is_open() && errno != EEXIST) return false;
   }
-  neighbour_ = neighbour;
+  neighbour_ = std::move(neighbour);
   neighbour_folder_ = folder;
   return true;
 }
