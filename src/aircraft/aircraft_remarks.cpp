@@ -78,8 +78,8 @@ class Reviewer {
       remark(row, "its skin is named by half, so none was installed");
       return;
     }
-    const bool below = stays_below(region) && stays_below(name);
-    if (!below || !is_there(game_.path(kSkinStore) + "\\" + region + "\\" + name)) {
+    const std::string folder = game_.path(kSkinStore) + "\\" + region + "\\" + name;
+    if (!stays_below(region) || !stays_below(name) || !is_there(folder)) {
       remark(row, "the store has no skin folder \"" + region + "\\" + name + "\"");
     }
   }

@@ -8,14 +8,16 @@ namespace vorlund {
 
 std::string flight_model_group_folder(const GameFolder& game, const PlaneTable& table) {
   const std::string& group = table.flight_model_group;
-  return stays_below(group) ? game.path(kFlightModels) + "\\" + group : "";
+  if (!stays_below(group)) return {};
+  return game.path(kFlightModels) + "\\" + group;
 }
 
 std::string flight_model_folder(const GameFolder& game, const PlaneTable& table, int row) {
   std::string group = flight_model_group_folder(game, table);
   const std::string name = table.cell(row, PlaneTable::kScriptFolder);
   if (group.empty() || name.empty()) return group;
-  return stays_below(name) ? group + "\\" + name : "";
+  if (!stays_below(name)) return {};
+  return group + "\\" + name;
 }
 
 std::vector<std::string> list_model_files(FileSystem& files, const std::string& folder,

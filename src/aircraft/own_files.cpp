@@ -125,7 +125,8 @@ std::string record_name(const PlaneTable& table, const std::map<int, int>& slots
 }
 
 std::string name_difference(const std::string& today, const std::string& then) {
-  return today == then ? "" : "is " + quoted(today) + ", chosen " + quoted(then);
+  if (today == then) return {};
+  return "is " + quoted(today) + ", chosen " + quoted(then);
 }
 
 }  // namespace

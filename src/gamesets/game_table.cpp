@@ -1,6 +1,8 @@
 // The look of the game table and the two commands on its current row.
 #include "gamesets/game_table.h"
 
+#include "base/text.h"
+
 namespace vorlund {
 
 GameTable::GameTable() {
@@ -30,7 +32,8 @@ void GameTable::select(int row) {
 
 std::string GameTable::current_in_words() const {
   const std::string folder = cell(current_row, kFolder);
-  return folder.empty() ? "The row of \"" + cell(current_row, kGroup) + "\"" : "\"" + folder + "\"";
+  if (folder.empty()) return "The row of " + quoted(cell(current_row, kGroup));
+  return quoted(folder);
 }
 
 void GameTable::clear_current(std::optional<std::string_view> last_group) {

@@ -169,9 +169,7 @@ class Composer {
     for (const ForeseenPatch& patch : patches) {
       ContentsLine line;
       line.kind = ContentsKind::kPatches;
-      line.file = patch.length == 0 ? "eaw.exe, no byte"
-                                    : "eaw.exe, bytes " + std::to_string(patch.first) + " to " +
-                                          std::to_string(patch.first + patch.length - 1);
+      line.file = bytes_in_words(patch);
       line.from = patch_in_words(patch);
       line.size = patch.length;
       std::string later = "a later eaw.exe";
@@ -184,6 +182,12 @@ class Composer {
                                        : "not in place";
       contents_.lines.push_back(std::move(line));
     }
+  }
+
+  static std::string bytes_in_words(const ForeseenPatch& patch) {
+    if (patch.length == 0) return "eaw.exe, no byte";
+    const std::uint64_t last = patch.first + patch.length - 1;
+    return "eaw.exe, bytes " + std::to_string(patch.first) + " to " + std::to_string(last);
   }
 
   [[nodiscard]] std::string patch_in_words(const ForeseenPatch& patch) const {

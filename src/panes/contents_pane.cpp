@@ -127,7 +127,7 @@ void ContentsPane::copy() {
       to_copy.append(column == 0 ? "\n" : "\t").append(cell(place, static_cast<Column>(column)));
     }
   }
-  desk_.say(places.size() == 1 ? "1 row was copied" : std::to_string(places.size()) + " rows were copied");
+  desk_.say(counted(places.size(), "row was copied", "rows were copied"));
 }
 
 std::string ContentsPane::cell(int place, Column column) const {

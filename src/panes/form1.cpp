@@ -194,9 +194,9 @@ void Form1::open_flight_model_choice() {
 void Form1::say_next(const FolderList& groups, std::string_view store, std::string_view next) {
   const std::string folder(store.substr(1));
   const bool there = !groups.names.empty() || desk.files.FolderExists(groups.path);
-  desk.say(!there                 ? "There is no folder " + quoted(folder)
-           : groups.names.empty() ? "There is nothing to choose from in " + quoted(folder)
-                                  : std::string(next));
+  if (!there) return desk.say("There is no folder " + quoted(folder));
+  if (groups.names.empty()) return desk.say("There is nothing to choose from in " + quoted(folder));
+  desk.say(next);
 }
 
 void Form1::start_game() {
@@ -211,9 +211,8 @@ void Form1::delete_mission_files() {
   const std::uint64_t deleted = delete_default_missions(folder);
   SavDatFile.path = folder.path(kSavedata);
   SavDatFile.refresh(desk.files);
-  desk.say(deleted == 0
-               ? "There is no \"Default\" mission file in \"Savedata\""
-               : counted(deleted, "\"Default\" mission file", "\"Default\" mission files") + " deleted");
+  if (deleted == 0) return desk.say("There is no \"Default\" mission file in \"Savedata\"");
+  desk.say(counted(deleted, "\"Default\" mission file", "\"Default\" mission files") + " deleted");
 }
 
 void Form1::hide_title() {
@@ -232,7 +231,8 @@ void Form1::Label10_Click(int index) {
   if (index == 1) game.hide();
   if (index == 2) selection.hide_for_table();
   const std::string& shows = desk.labels.Label2.caption;
-  desk.say(shows.empty() ? "" : quoted(shows) + " brings it back");
+  if (shows.empty()) return desk.say("");
+  desk.say(quoted(shows) + " brings it back");
 }
 
 void Form1::G1_MouseDown(int row, int column, const MouseEvent& event) {
@@ -319,23 +319,25 @@ void Form1::change_tables(const std::function<void()>& change) {
   if (home == home_before) return;
   const std::size_t saves = count_career_saves(desk.game());
   if (saves == 0) return;
-  const std::string which = saves == 1 ? "The career save" : "The " + std::to_string(saves) + " career saves";
-  desk.say_too(
-      which + " in \"Savedata\" would now " +
-      (home.empty() ? "stay there: no row names their home" : "go home to " + home + " at \"Clean Up\""));
+  std::string told = saves == 1 ? "The career save" : "The " + grouped(saves) + " career saves";
+  told += " in \"Savedata\" would now ";
+  told += home.empty() ? "stay there: no row names their home" : "go home to " + home + " at \"Clean Up\"";
+  desk.say_too(told);
 }
 
 void Form1::take_back() {
   change_tables([this] {
     const std::string what = history_.take_back();
-    desk.say(what.empty() ? "There is nothing to take back" : "Taken back: " + what);
+    if (what.empty()) return desk.say("There is nothing to take back");
+    desk.say("Taken back: " + what);
   });
 }
 
 void Form1::do_again() {
   change_tables([this] {
     const std::string what = history_.do_again();
-    desk.say(what.empty() ? "There is nothing to do again" : "Done again: " + what);
+    if (what.empty()) return desk.say("There is nothing to do again");
+    desk.say("Done again: " + what);
   });
 }
 

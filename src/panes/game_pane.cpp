@@ -33,8 +33,8 @@ void GamePane::clear_selected_row(std::optional<std::string_view> last_group) {
 
 void GamePane::move_selected_row_to_end() {
   G2.move_current_to_end();
-  desk_.say(G2.current_row == 0 ? "Nothing was moved: first select a row"
-                                : G2.current_in_words() + " now stands at the end and is loaded last");
+  if (G2.current_row == 0) return desk_.say("Nothing was moved: first select a row");
+  desk_.say(G2.current_in_words() + " now stands at the end and is loaded last");
 }
 
 void GamePane::mark_rows() {

@@ -87,9 +87,8 @@ std::string what_is_installed(const GameFolder& game_folder, const GameTable& ga
   }
   const std::string& group = plane.flight_model_group;
   if (group != installed_planes.flight_model_group) wanted.push_back("flight models of \"" + group + "\"");
-  std::string text = wanted.empty()
-                         ? "What the tables show is installed."
-                         : "Not installed yet: " + joined(wanted) + ". \"Process!\" installs them.";
+  std::string text = "What the tables show is installed.";
+  if (!wanted.empty()) text = "Not installed yet: " + joined(wanted) + ". \"Process!\" installs them.";
   if (!cleared.empty()) {
     text += "\nInstalled, but cleared since: " + joined(cleared) + ". \"Clean Up\" deletes their files.";
   }

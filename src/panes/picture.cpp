@@ -24,7 +24,8 @@ PictureFile load_picture(FileSystem& files, std::string_view path) {
 
 PictureFile first_picture(FileSystem& files, const std::string& folder) {
   const std::vector<std::string> pictures = list_files(files, folder, kPicturePattern);
-  return pictures.empty() ? PictureFile() : load_picture(files, folder + "\\" + pictures.front());
+  if (pictures.empty()) return {};
+  return load_picture(files, folder + "\\" + pictures.front());
 }
 
 }  // namespace vorlund

@@ -49,9 +49,9 @@ void PlanePane::switch_view() {
   G1.switch_view();
   refresh();
   const std::size_t shown = G1.shown_slots().size();
-  desk_.say(G1.shows_all ? "All slots are shown"
-            : shown == 0 ? "No slot is in use"
-                         : counted(shown, "slot that is in use is", "slots that are in use are") + " shown");
+  if (G1.shows_all) return desk_.say("All slots are shown");
+  if (shown == 0) return desk_.say("No slot is in use");
+  desk_.say(counted(shown, "slot that is in use is shown", "slots that are in use are shown"));
 }
 
 void PlanePane::select_cell(int row, int column) {

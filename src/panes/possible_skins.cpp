@@ -62,7 +62,8 @@ void PossibleSkins::select(int index) {
 
 std::string PossibleSkins::folder_of(int index) const {
   const std::string& entry = List4.items.at(static_cast<std::size_t>(index));
-  return stays_below(entry) ? desk_.game().path(kSkinFolders) + entry : "";
+  if (!stays_below(entry)) return {};
+  return desk_.game().path(kSkinFolders) + entry;
 }
 
 void PossibleSkins::show_entry() {

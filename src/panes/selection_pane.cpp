@@ -101,7 +101,8 @@ void SelectionPane::open_group(int index) {
   plane_.Frame1.visible = false;
   game_.GameFrame.visible = false;
   ShowSelected();
-  desk_.say(RegionDir.names.empty() ? quoted(group) + " has no folder to choose" : "");
+  if (RegionDir.names.empty()) return desk_.say(quoted(group) + " has no folder to choose");
+  desk_.say("");
 }
 
 /// Of the slots that have a flight model, those whose folder the current group does not have.

@@ -104,5 +104,42 @@ TEST(OwnFiles, MenusAreComparedEntryByEntry) {
   EXPECT_EQ(entries[1].state, "is \"Hurricane\", chosen \"Typhoon\"");
 }
 
+TEST(OwnFiles, EachSideHasItsName) {
+  const auto side = [](char today, char then) {
+    return compare_planes_data(planes(1, today, 0, 0), planes(1, then, 0, 0), PlaneTable()).at(0).state;
+  };
+  EXPECT_EQ(side(1, 2), "side is British, chosen American");
+  EXPECT_EQ(side(2, 3), "side is American, chosen Allied");
+  EXPECT_EQ(side(3, 1), "side is Allied, chosen British");
+}
+
+TEST(OwnFiles, TheSideIsThatOfTheTableWhereTheTableNamesOne) {
+  PlaneTable table = chosen();
+  EXPECT_EQ(compare_planes_data(planes(1, 2, 0, 0), planes(1, 3, 0, 0), table).at(0).state,
+            "side is American, chosen British");
+  table.set_cell(6, PlaneTable::kSide, "");
+  EXPECT_EQ(compare_planes_data(planes(1, 2, 0, 0), planes(1, 3, 0, 0), table).at(0).state,
+            "side is American, chosen Allied");
+}
+
+TEST(OwnFiles, ADifferenceThatHasNoNameIsCounted) {
+  EXPECT_EQ(compare_planes_data(planes(1, 0, 0, 0), planes(1, 1, 0, 0), chosen()).at(0).state,
+            "1 byte differs")
+      << "both are British";
+}
+
+TEST(OwnFiles, ASlotWhoseRecordNumberCannotBeTakenIsPassedOver) {
+  PlaneTable table = chosen();
+  table.set_cell(6, PlaneTable::kRecordNumber, "70000");
+  EXPECT_TRUE(compare_planes_data(planes(1, 1, 0, 0), planes(1, 1, 0, 0), table).empty());
+  EXPECT_TRUE(compare_loadout_data("", "", table).empty());
+}
+
+TEST(OwnFiles, ALoadOutAsChosenSaysNothing) {
+  const auto entries = compare_loadout_data("", "", chosen());
+  ASSERT_EQ(entries.size(), 1U);
+  EXPECT_EQ(entries[0].state, "");
+}
+
 }  // namespace
 }  // namespace vorlund

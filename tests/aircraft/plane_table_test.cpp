@@ -100,6 +100,9 @@ TEST(PlaneTable, CellsCycleThroughTheirValues) {
       {PlaneTable::kFuel, "25", "100"},
       {PlaneTable::kFuel, " 1e2 ", "75"},
       {PlaneTable::kFuel, "25.0", "100"},
+      {PlaneTable::kFuel, "+100", "75"},
+      {PlaneTable::kFuel, "1E+2", "75"},
+      {PlaneTable::kFuel, "1000e-1", "75"},
       {PlaneTable::kFuel, "80", "80"},
       {PlaneTable::kFuel, "-50", "-50"},
       {PlaneTable::kFuel, "", ""},
@@ -133,7 +136,7 @@ TEST(PlaneTable, CellsCycleThroughTheirValues) {
 }
 
 TEST(PlaneTable, FuelThatIsNoNumberIsATypeMismatchAndStays) {
-  for (const char* text : {"full", "50%", "5 0", ".", "-", "1e", "e5", "100 percent"}) {
+  for (const char* text : {"full", "50%", "5 0", ".", "-", "1e", "1e+", "e5", "100 percent"}) {
     PlaneTable table;
     table.set_cell(5, PlaneTable::kFuel, text);
     try {

@@ -57,8 +57,9 @@ const std::string_view kPortable[] = {
     "a;b"sv,      "a'b"sv,         "#1"sv,        "@x"sv,           "{x}"sv,        "[x]"sv,
     "a=b"sv,      "a,b"sv,         "a+b"sv,       "a^b"sv,          "!x"sv,         "(x)"sv,
     " x"sv,       "CONTENTS"sv,    "CONSOLE"sv,   "NULL"sv,         "AUXILIARY"sv,  "COM"sv,
-    "COM10"sv,    "COMA"sv,        "LPT"sv,       "LPTX"sv,         "COM1x"sv,      "PROGRA~1"sv,
-    "\u2025"sv,   "\u2215x"sv,     "\uFF0Fx"sv,   "\uFF3Cx"sv,      "x\u00A0"sv,    "\u0081"sv};
+    "COM10"sv,    "COM!"sv,        "COMA"sv,      "LPT"sv,          "LPTX"sv,       "COM1x"sv,
+    "PROGRA~1"sv, "\u2025"sv,      "\u2215x"sv,   "\uFF0Fx"sv,      "\uFF3Cx"sv,    "x\u00A0"sv,
+    "\u0081"sv};
 
 std::string shown(std::string_view name) {
   return testing::PrintToString(std::string(name));

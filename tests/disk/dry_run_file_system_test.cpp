@@ -6,6 +6,7 @@
 #include <functional>
 
 #include "base/action_error.h"
+#include "support/forwarding_file_system.h"
 #include "support/temporary_folder.h"
 #include "support/tree_of.h"
 
@@ -215,6 +216,44 @@ TEST_F(DryRun, FilesOfOneSizeAreComparedToTheirEnds) {
 TEST_F(DryRun, StartsNoProgram) {
   folder_.write("eaw.exe", "x");
   EXPECT_THROW(dry_.start_program(folder_.path("eaw.exe"), folder_.path()), ActionError);
+}
+
+TEST_F(DryRun, ForeseesWhatCanBeDoneToWhatItHasWritten) {
+  folder_.write("disk", "x");
+  replace("new", "bytes");
+  remove("disk");
+  for (const Change change : {Change::kReplace, Change::kCopy, Change::kRemove}) {
+    EXPECT_NO_THROW(dry_.foresee(change, folder_.path("new")));
+  }
+  EXPECT_NO_THROW(dry_.foresee(Change::kReplace, folder_.path("disk")));
+  EXPECT_THROW(dry_.foresee(Change::kRemove, folder_.path("disk")), ActionError);
+  EXPECT_THROW(dry_.foresee(Change::kRemove, folder_.path("nothing")), ActionError);
+}
+
+TEST_F(DryRun, FilesInTheFolderOfARootPathAreFound) {
+  folder_.write("file", "x");
+  EXPECT_TRUE(dry_.FileExists(folder_.path("file")));
+  EXPECT_FALSE(dry_.FileExists("\\no such file"));
+  EXPECT_FALSE(dry_.FileExists("no such file"));
+  EXPECT_FALSE(dry_.is_there("C:\\no such file"));
+}
+
+TEST_F(DryRun, BytesThatCannotBeReadTodayAreNotThoseThatItWrites) {
+  folder_.write("source", "bytes");
+  folder_.write("Game/file", "bytes");
+  class Unreadable : public test::ForwardingFileSystem {
+   public:
+    using ForwardingFileSystem::ForwardingFileSystem;
+    std::unique_ptr<FileReader> open_file(std::string_view path) override {
+      if (path.ends_with("file")) throw ActionError("read", path, "the disk fails");
+      return ForwardingFileSystem::open_file(path);
+    }
+  } unreadable(*disk_);
+  DryRunFileSystem dry(unreadable);
+  dry.replace_file(folder_.path("Game\\file"), "bytes", Durability::kCached);
+  const std::vector<ForeseenFile> files = dry.foreseen();
+  ASSERT_EQ(files.size(), 1U);
+  EXPECT_EQ(files.front().state, State::kChanged);
 }
 
 #ifndef _WIN32

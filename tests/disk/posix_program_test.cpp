@@ -42,6 +42,13 @@ class StartProgramTest : public testing::Test {
   std::string path_before_ = std::getenv("PATH");
 };
 
+/// The beginning of a Windows program for a processor: the header stands behind a little program for DOS.
+std::string windows_program(const std::string& machine) {
+  std::string bytes = "MZ" + std::string(0x3A, '\0') + std::string("\x80\0\0\0", 4);
+  bytes.resize(0x80, ' ');
+  return bytes + std::string("PE\0\0", 4) + machine;
+}
+
 TEST_F(StartProgramTest, AProgramRunsDetachedInItsFolder) {
   make_script("Game/Fly", "pwd > started; sleep 0.2; mv started done");
   files_->start_program(folder_.path("GAME\\fly"), folder_.path("game"));
@@ -118,11 +125,30 @@ TEST_F(StartProgramTest, AProgramThatTheSystemRefusesIsAnError) {
   EXPECT_THROW(files_->start_program(folder_.path("Game\\fly"), folder_.path("nothing")), ActionError);
 }
 
-/// The beginning of a Windows program for a processor: the header stands behind a little program for DOS.
-std::string windows_program(const std::string& machine) {
-  std::string bytes = "MZ" + std::string(0x3A, '\0') + std::string("\x80\0\0\0", 4);
-  bytes.resize(0x80, ' ');
-  return bytes + std::string("PE\0\0", 4) + machine;
+TEST_F(StartProgramTest, WithoutThe32BitPartOfWineTheErrorSaysHowToInstallIt) {
+  make_script("usr/bin/wine", "exit 0");
+  folder_.write("usr/lib/wine/wine64", "");
+  ::setenv("PATH", system_path("usr/bin").c_str(), 1);
+  const PosixCommand command = command_for("/fly.exe", windows_program("\x64\x86"), folder_.path());
+  EXPECT_EQ(command.executable, system_path("usr/bin/wine"));
+  EXPECT_EQ(command.arguments, (std::vector<std::string>{"wine", "/fly.exe"}));
+  try {
+    command_for("/fly.exe", windows_program("\x4C\x01"), folder_.path());
+    ADD_FAILURE() << "no error";
+  } catch (const ActionError& error) {
+    EXPECT_EQ(error.path(), "/fly.exe");
+    EXPECT_NE(error.reason().find("apt-get install wine32:i386"), std::string::npos) << error.reason();
+  }
+}
+
+TEST_F(StartProgramTest, WithoutAPathWineIsLookedForWhereSystemsKeepTheirPrograms) {
+  ::unsetenv("PATH");
+  try {
+    const std::string found = command_for("/fly.exe", "MZ").executable;
+    EXPECT_TRUE(found == "/usr/local/bin/wine" || found == "/usr/bin/wine" || found == "/bin/wine") << found;
+  } catch (const ActionError& error) {
+    EXPECT_EQ(error.reason(), "Wine is missing, which is needed to start a Windows program");
+  }
 }
 
 TEST(WindowsProgram, IsToldToBeA32BitOneByItsHeader) {
@@ -142,8 +168,14 @@ TEST(WindowsProgram, TakesThe32BitPartOfDebiansWineWhereItIsOne) {
   EXPECT_TRUE(lacks_32_bit_wine(root + "/usr/bin/wine", root));
   EXPECT_FALSE(lacks_32_bit_wine(root + "/opt/wine", root));
   EXPECT_FALSE(lacks_32_bit_wine(root + "/usr/bin/nothing", root));
-  folder.write("usr/lib/wine/wine", "");
-  EXPECT_FALSE(lacks_32_bit_wine(root + "/usr/bin/wine", root));
+  for (const char* part : {"/usr/lib/wine/wine", "/usr/lib/x86_64-linux-gnu/wine/i386-windows",
+                           "/usr/lib/i386-linux-gnu/wine"}) {
+    std::filesystem::create_directories(root + part);
+    EXPECT_FALSE(lacks_32_bit_wine(root + "/usr/bin/wine", root)) << part;
+    std::filesystem::remove(root + part);
+  }
+  std::filesystem::remove(root + "/usr/lib/wine/wine64");
+  EXPECT_FALSE(lacks_32_bit_wine(root + "/usr/bin/wine", root)) << "it is another one";
 }
 
 }  // namespace

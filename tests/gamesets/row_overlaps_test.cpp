@@ -3,10 +3,21 @@
 
 #include <gtest/gtest.h>
 
+#include "base/action_error.h"
+#include "support/forwarding_file_system.h"
 #include "support/temporary_folder.h"
 
 namespace vorlund {
 namespace {
+
+/// A disk whose folders can't be listed.
+class WithoutListings : public test::ForwardingFileSystem {
+ public:
+  using ForwardingFileSystem::ForwardingFileSystem;
+  std::vector<FolderEntry> entries(std::string_view folder) override {
+    throw ActionError("list the folder", folder, "no right");
+  }
+};
 
 class RowOverlapsTest : public testing::Test {
  protected:
@@ -59,6 +70,20 @@ TEST_F(RowOverlapsTest, ARowCouldGoWhereLaterRowsReplaceEachOfItsFiles) {
   EXPECT_FALSE(rows.could_go(2)) << "its patch is applied";
   EXPECT_FALSE(rows.could_go(3)) << "it writes nothing that could be replaced";
   EXPECT_FALSE(rows.could_go(4)) << "it is the last";
+}
+
+TEST_F(RowOverlapsTest, NamesThatLeadElsewhereAndFoldersThatCannotBeListedHaveNoFiles) {
+  store("A/One/sky.pal");
+  folder.write("~Vorlund/GameStore/A/file", "");
+  for (const char* name : {"One", "..\\A\\One", "One", ""}) table.add_row({"A", name});
+  table.add_row({"..", "GameStore"});
+  EXPECT_EQ(overlaps().shared_files(1, 3), 1);
+  EXPECT_EQ(overlaps().shared_files(1, 2), 0);
+  EXPECT_EQ(overlaps().shared_files(1, 5), 0);
+  WithoutListings failing(*files);
+  const RowOverlaps rows({failing, folder.path()}, table);
+  EXPECT_EQ(rows.shared_files(1, 3), 0);
+  EXPECT_FALSE(rows.could_go(1));
 }
 
 }  // namespace

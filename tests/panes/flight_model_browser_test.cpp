@@ -218,5 +218,32 @@ TEST_F(Browser, DoesNothingWithoutAnOptionOrWithoutASelection) {
   }
 }
 
+TEST_F(Browser, LinesMayEndInEitherByteAlone) {
+  for (const char* end : {"\n", "\r"}) {
+    std::string text;
+    for (const char character : flight_model("Spitfire IX", "11", "5", "2")) {
+      if (character != '\n') text += character == '\r' ? *end : character;
+    }
+    store("spit9/spit9.oaw", text);
+    find_for_slot("spit9");
+    EXPECT_EQ(row_text(kSpitfireRow).find("SP09 - - 11 spit9 Spitfire IX"), 0U) << row_text(kSpitfireRow);
+    plane.G1.clear_current();
+  }
+}
+
+TEST_F(Browser, AFlightModelWithoutALineIsToldOf) {
+  store("spit9/spit9.oaw", "");
+  find_for_slot("spit9");
+  EXPECT_NE(last_outcome().find("\"spit9.oaw\" has 0 lines where 169 are needed"), std::string::npos)
+      << last_outcome();
+}
+
+TEST_F(Browser, AClickBesideThePlaneCodesSelectsNone) {
+  for (const int index : {-1, 30}) {
+    form.List3_Click(index);
+    EXPECT_EQ(cell(kSpitfireRow, PlaneTable::kRecordNumber), "") << index;
+  }
+}
+
 }  // namespace
 }  // namespace vorlund

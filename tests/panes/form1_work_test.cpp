@@ -170,6 +170,19 @@ TEST_F(Work, SaysWhereCareerSavesWouldGoWhenTheirHomeChanges) {
   form->Label19_Click();
   EXPECT_TRUE(form->desk.status_line.caption.ends_with("go home to Careers\\Camp1 at \"Clean Up\""))
       << form->desk.status_line.caption;
+  folder.write("Savedata/c2.sve", "two");
+  form->G2_Click(1);
+  form->Label28_Click();
+  EXPECT_TRUE(form->desk.status_line.caption.ends_with(
+      "\nThe 2 career saves in \"Savedata\" would now go home to Careers at \"Clean Up\""))
+      << form->desk.status_line.caption;
+  folder.write("~Vorlund/GameSetFiles/None", "Folder group\tFolder name\r\nSky\tDusk\r\n");
+  form->Label12_Click();
+  form->File3_Click(0);
+  form->Label19_Click();
+  EXPECT_TRUE(form->desk.status_line.caption.ends_with(
+      "\nThe 2 career saves in \"Savedata\" would now stay there: no row names their home"))
+      << form->desk.status_line.caption;
 }
 
 TEST_F(Work, MarksFollowEveryChangeOfTheTables) {

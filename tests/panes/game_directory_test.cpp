@@ -73,5 +73,32 @@ TEST(GameDirectory, OutsideAnyFolderItStartsEmpty) {
   EXPECT_EQ(game.Dir6.names, Names());
 }
 
+TEST_F(GameDirectoryTest, AClickBesideTheFoldersStays) {
+  game_.open_folder(-1);
+  game_.open_folder(2);
+  EXPECT_EQ(game_.Label16.caption, folder_.path("Game"));
+}
+
+TEST(GameDirectory, ARootIsItsOwnParentAndTakesNoSecondSeparator) {
+  const auto disk = make_platform_file_system();
+  const struct {
+    const char* folder;
+    const char* parent;
+  } cases[] = {{"C:\\", "C:\\"}, {"C:\\Games", "C:\\"}, {"\\", "\\"}, {"/Games", "/"}, {"Games", "Games"}};
+  for (const auto& one : cases) {
+    ElsewhereFileSystem files(*disk, one.folder);
+    GameDirectory game(files);
+    game.start();
+    game.open_folder(-2);
+    EXPECT_EQ(game.Label16.caption, one.parent) << one.folder;
+  }
+  ElsewhereFileSystem files(*disk, "C:\\");
+  GameDirectory game(files);
+  game.start();
+  game.Dir6.names = {"Games"};
+  game.open_folder(0);
+  EXPECT_EQ(game.Label16.caption, "C:\\Games");
+}
+
 }  // namespace
 }  // namespace vorlund

@@ -118,5 +118,15 @@ TEST_F(LoadingSetups, AClickBesideTheNamesChoosesNothing) {
   EXPECT_EQ(load.Label21.caption, "");
 }
 
+TEST_F(LoadingSetups, WhatIsNotChosenIsNotTakenBack) {
+  form.File3_Click(0);
+  form.Label21_Click();
+  EXPECT_EQ(load.Label21.caption, "");
+  const std::string said = work.said();
+  form.Label21_Click();
+  form.Label20_Click();
+  EXPECT_EQ(work.said(), said);
+}
+
 }  // namespace
 }  // namespace vorlund

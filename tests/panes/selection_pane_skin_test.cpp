@@ -150,5 +150,14 @@ TEST_F(GroupChoice, HasNoTableToBringBack) {
   EXPECT_FALSE(form.game.GameFrame.visible);
 }
 
+TEST_F(SkinSelection, NothingIsPutIntoATableWithoutTheRow) {
+  make_skin("RAF/Mk9", {"psp09.3dz"});
+  open("RAF", "Mk9");
+  plane.G1.replace_rows(5, plane.G1.row_count() - 5, {});
+  form.Image1_Click();
+  EXPECT_EQ(plane.G1.row_count(), 5);
+  EXPECT_EQ(last_outcome(), "\"Mk9\" was not put anywhere: the plane table has no row for its slot");
+}
+
 }  // namespace
 }  // namespace vorlund

@@ -284,5 +284,17 @@ TEST_F(TakingBack, KeepsTheLastStepOfATableHoweverLarge) {
   EXPECT_EQ(history.take_back(), "");
 }
 
+TEST_F(TakingBack, SlotsThatTheAircraftSettingsAddedGoAndComeWithTheChangeBeforeThem) {
+  form->Label9_MouseUp(1, left());
+  const std::string before = tables();
+  choose(1, 1);
+  form->Label9_MouseUp(0, left());
+  const std::string after = tables();
+  form->take_back();
+  EXPECT_EQ(tables(), before);
+  form->do_again();
+  EXPECT_EQ(tables(), after);
+}
+
 }  // namespace
 }  // namespace vorlund

@@ -83,13 +83,13 @@ bool lacks_32_bit_wine(const std::string& wine, const std::string& root) {
          !there("/usr/lib/i386-linux-gnu/wine");
 }
 
-PosixCommand command_for(const std::string& program, std::string_view beginning) {
+PosixCommand command_for(const std::string& program, std::string_view beginning, const std::string& root) {
   if (!beginning.starts_with("MZ")) return {program, {program}};
   const std::string wine = find_command("wine");
   if (wine.empty()) {
     throw ActionError("start", program, "Wine is missing, which is needed to start a Windows program");
   }
-  if (is_32_bit_windows_program(beginning) && lacks_32_bit_wine(wine)) {
+  if (is_32_bit_windows_program(beginning) && lacks_32_bit_wine(wine, root)) {
     throw ActionError("start", program,
                       "it is a 32-bit program, and only the 64-bit part of Wine is installed. As root: "
                       "dpkg --add-architecture i386 && apt-get update && apt-get install wine32:i386");

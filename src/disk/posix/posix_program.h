@@ -21,13 +21,14 @@ inline constexpr std::size_t kProgramBeginning = 4096;
 bool is_32_bit_windows_program(std::string_view beginning);
 
 /// True where the `wine` command at that path is Debian's, of which only the 64-bit part is installed; other
-/// systems' start programs of both kinds. `root` stands before all paths.
-bool lacks_32_bit_wine(const std::string& wine, const std::string& root = "");
+/// systems' start programs of both kinds. `root` stands before the paths of what is installed.
+bool lacks_32_bit_wine(const std::string& wine, const std::string& root);
 
 /// The command that starts the program file at `program`, an absolute path as the disk spells it. `beginning`
 /// is how the file begins: after "MZ" it is a Windows program, to be started through Wine. Throws ActionError
-/// where that, or the part of it that the program takes, is not installed.
-PosixCommand command_for(const std::string& program, std::string_view beginning);
+/// where that, or the part of it that the program takes, is not installed; for `root` see lacks_32_bit_wine.
+PosixCommand command_for(const std::string& program, std::string_view beginning,
+                         const std::string& root = "");
 
 /// Starts the command in an open folder, detached from this process, and returns when it runs. `path` is for
 /// the error report.
