@@ -86,11 +86,10 @@ FileSystem::Action::~Action() {
 }
 
 std::string staging_name(unsigned attempt) {
-  static const std::string begin =
-      std::string(kStagingBegin).append(1, kPlatformLetter).append(hexadecimal(own_process_number())) + "-";
   std::string name;
-  name.reserve(begin.size() + kMostDigits + kStagingEnd.size());
-  return name.append(begin).append(hexadecimal(attempt)).append(kStagingEnd);
+  name.reserve(kStagingBegin.size() + 2 * kMostDigits + kStagingEnd.size() + 2);
+  name.append(kStagingBegin).append(1, kPlatformLetter).append(hexadecimal(own_process_number()));
+  return name.append("-").append(hexadecimal(attempt)).append(kStagingEnd);
 }
 
 bool is_staging_name(std::string_view name) {

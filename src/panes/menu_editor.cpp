@@ -44,7 +44,8 @@ void MenuEditor::show_bytes() {
   for (std::size_t index = 0; index < PictureMenu::kEntries; ++index) {
     const PictureMenu::Entry& entry = menu.entries[index];
     bmnutb[index].text = entry.name;
-    mlen[index].caption = entry.length ? std::to_string(*entry.length) : "";
+    mlen[index].caption.clear();
+    if (entry.length) mlen[index].caption = std::to_string(*entry.length);
     position[index].caption = byte_numbers(entry.trailer);
   }
 }

@@ -11,6 +11,7 @@
 #include <cerrno>
 #include <csignal>
 #include <filesystem>
+#include <utility>
 
 #include "base/action_error.h"
 #include "disk/file_system.h"
@@ -453,6 +454,37 @@ TEST_F(PosixFileSystemTest, AnActionReadsTheNamesOfEachFolderOnce) {
   copy("Set\\FILE 0", "Game\\File 0");
   EXPECT_EQ(set.count(), 2) << "nothing is remembered after the action";
   EXPECT_EQ(game.count(), 2);
+}
+
+/// So much that several pulses fall into the work on one file.
+constexpr std::size_t kLong = 4U << 20;
+
+TEST_F(PosixFileSystemTest, OfASourceThatShrinksMeanwhileWhatIsLeftIsCopied) {
+  const std::string bytes(kLong, 's');
+  folder_.write("source", bytes);
+  int pulses = 0;
+  const FileSystem::Action action(*files_, [&] {
+    ++pulses;
+    EXPECT_EQ(::truncate(system_path("source").c_str(), 1), 0);
+  });
+  EXPECT_EQ(copy("source", "target"), CopyOutcome::kWritten);
+  const std::string copied = folder_.read("target");
+  EXPECT_EQ(copied, bytes.substr(0, copied.size()));
+  EXPECT_EQ(copied.size() < kLong, pulses > 0) << "a disk that shares blocks copies all at once";
+}
+
+TEST_F(PosixFileSystemTest, ATargetThatShrinksWhileItIsComparedIsWritten) {
+  const std::string bytes(kLong, 's');
+  folder_.write("source", bytes);
+  folder_.write("target", bytes);
+  bool is_cut = false;
+  const FileSystem::Action action(*files_, [&] {
+    if (std::exchange(is_cut, true)) return;
+    EXPECT_EQ(::truncate(system_path("target").c_str(), 1), 0);
+  });
+  EXPECT_EQ(copy("source", "target"), CopyOutcome::kWritten);
+  EXPECT_TRUE(is_cut);
+  EXPECT_EQ(folder_.read("target"), bytes);
 }
 
 }  // namespace

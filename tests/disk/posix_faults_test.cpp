@@ -250,9 +250,12 @@ TEST_P(PosixFaults, AFileWithHolesIsCopiedWholeWhereTheDiskCannotTellThem) {
     EXPECT_TRUE(folder_.read("Game/" + std::to_string(error)) ==
                 std::string(kSize / 2, '\0') + std::string(kSize / 2, 'x'));
   }
-  const FailingCall failing("lseek", ".bak", EIO);
-  EXPECT_THROW(copy("source", "Game\\new.dat"), ActionError);
-  EXPECT_FALSE(folder_.has("Game/new.dat"));
+  for (const char* function : {"lseek", "ftruncate"}) {
+    const FailingCall failing(function, ".bak", EIO);
+    EXPECT_THROW(copy("source", "Game\\new.dat"), ActionError) << function;
+    EXPECT_GT(FailingCall::count(), 0) << function;
+    EXPECT_FALSE(folder_.has("Game/new.dat")) << function;
+  }
 }
 
 TEST_P(PosixFaults, AReaderThatCannotBePlacedIsAnError) {
@@ -340,6 +343,30 @@ TEST_P(PosixFaults, WithNoDescriptorLeftNothingIsTakenForMissing) {
   EXPECT_THROW(files_->lies_inside(path("Game\\Empty"), path("Game")), ActionError);
   ASSERT_EQ(::setrlimit(RLIMIT_NOFILE, &before), 0);
   EXPECT_TRUE(files_->FileExists(path("Game\\Planes.dat")));
+}
+
+TEST_P(PosixFaults, ACurrentFolderThatIsGoneHoldsNothing) {
+  const FailingCall failing("openat", ".", ENOENT);
+  EXPECT_FALSE(files_->FileExists("no such file"));
+  EXPECT_FALSE(files_->FolderExists("no such folder\\file"));
+  EXPECT_GT(FailingCall::count(), 0);
+}
+
+TEST(PosixStaging, AFolderThatMayNotBeListedServesAndOneThatCannotBeListedIsAnError) {
+  const test::TemporaryFolder folder;
+  folder.write("source", "new");
+  folder.make_folder("Game");
+  folder.make_folder("Store");
+  const auto files = make_platform_file_system();
+  const auto copy = [&](int error) {
+    const FileSystem::Action action(*files, {}, folder.path("Store"));
+    const FailingCall failing("getdents64", "Store", error);
+    files->copy_file(folder.path("source"), folder.path("Game\\" + std::to_string(error)),
+                     Durability::kCached);
+  };
+  EXPECT_NO_THROW(copy(EACCES));
+  EXPECT_THROW(copy(EIO), ActionError);
+  EXPECT_EQ(folder.names("Game"), Names{std::to_string(EACCES)});
 }
 
 INSTANTIATE_TEST_SUITE_P(Both, PosixFaults, testing::Bool(),

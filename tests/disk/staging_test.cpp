@@ -13,6 +13,7 @@
 #include "windows/windows_path.h"
 #else
 #include <sys/stat.h>
+#include <unistd.h>
 #endif
 
 namespace vorlund {
@@ -112,6 +113,18 @@ TEST_F(Staging, OfOtherPermissionsItServesNot) {
   copy_set(folder_.path("Store"));
   expect_copied({{"Store/" + left_over_, "would be swept"}});
 }
+
+#ifndef _WIN32
+
+TEST_F(Staging, OfAnotherGroupItServesNot) {
+  if (::geteuid() != 0) GTEST_SKIP() << "only root gives a folder to any group";
+  ASSERT_EQ(::chown((folder_.path() + "/Store").c_str(), static_cast<uid_t>(-1), 1), 0);
+  folder_.write("Store/" + left_over_, "would be swept");
+  copy_set(folder_.path("Store"));
+  expect_copied({{"Store/" + left_over_, "would be swept"}});
+}
+
+#endif
 
 }  // namespace
 }  // namespace vorlund

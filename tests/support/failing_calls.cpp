@@ -116,6 +116,12 @@ int fstatvfs(int descriptor, struct statvfs* status) noexcept {
   return 0;
 }
 
+int ftruncate(int descriptor, off_t length) noexcept {
+  return fails("ftruncate", path_of(descriptor))
+             ? -1
+             : static_cast<int>(::syscall(SYS_ftruncate, descriptor, length));
+}
+
 off_t lseek(int descriptor, off_t offset, int whence) noexcept {
   return fails("lseek", path_of(descriptor)) ? -1 : ::syscall(SYS_lseek, descriptor, offset, whence);
 }

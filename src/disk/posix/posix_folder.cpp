@@ -31,6 +31,7 @@ SplitPath split_path(std::string_view path) {
     const std::size_t begin = std::max(parts.folder.rfind('\\', last) + 1, parts.folder.rfind('/', last) + 1);
     parts = {path.substr(0, begin), path.substr(begin, last + 1 - begin)};
   }
+  if (parts.folder.empty()) parts.folder = ".";
   return parts;
 }
 
@@ -175,7 +176,7 @@ void PosixFolders::forget() {
 std::shared_ptr<PosixFolder> PosixFolders::open(std::string_view path) {
   if (auto folder = kept(path)) return folder;
 
-  std::string spelled(path.empty() ? "." : path);
+  std::string spelled(path);
   std::replace(spelled.begin(), spelled.end(), '\\', '/');
   spelled.resize(std::max<std::size_t>(spelled.find_last_not_of('/') + 1, 1));
   FileHandle handle = open_folder_at(AT_FDCWD, spelled.c_str());

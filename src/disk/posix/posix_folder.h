@@ -19,12 +19,12 @@ namespace vorlund {
 
 /// A path cut before its last name: separators and parts "." behind that are left out.
 struct SplitPath {
-  std::string_view folder;  ///< as the path spells it, with its separator; "" for the current folder
+  std::string_view folder;  ///< as the path spells it, with its separator; "." for the current folder
   std::string_view name;    ///< "." for the current folder or the root itself
 };
 
-/// Takes a path of the program apart, whose text the parts are of. A path that no file can have (empty, with
-/// a NUL) gives an empty name.
+/// Takes a path of the program apart, which outlives the parts. A path that no file can have (empty, with a
+/// NUL) gives an empty name.
 SplitPath split_path(std::string_view path);
 
 /// The folder, which is not "", and the name joined again.
@@ -115,7 +115,7 @@ class PosixFolders {
   void remember() { remembering_ = true; }
   void forget();
 
-  /// The folder of a path, "" for the current folder; none, with errno, when there is no such folder.
+  /// The folder of a path as `split_path` gives it; none, with errno, when there is no such folder.
   std::shared_ptr<PosixFolder> open(std::string_view path);
 
  private:
