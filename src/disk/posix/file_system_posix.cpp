@@ -276,25 +276,14 @@ CopyOutcome PosixFileSystem::copy_file(std::string_view source_path, std::string
                                        Durability durability) {
   const PosixSource source = open_source(source_path);
   PosixTarget target = open_target(target_path, Spelling::kAsAsked);
-  if (holds(target, source)) {
-    return target.keep(durability) ? CopyOutcome::kUnchanged : CopyOutcome::kWritten;
-  }
-  content_.write_to(source, target.begin(staging_), target_path);
-  if (!target.finish(durability)) {
-    staging_.reset();
-    content_.write_to(source, target.begin(nullptr), target_path);
-    target.finish(durability);
-  }
-  return CopyOutcome::kWritten;
+  return copy_to(target, holds(target, source), staging_, durability,
+                 [&](int written) { content_.write_to(source, written, target_path); });
 }
 
 CopyForecast PosixFileSystem::foresee_copy(std::string_view source_path, std::string_view target_path) {
   const PosixSource source = open_source(source_path);
   PosixTarget target = open_target(target_path, Spelling::kAsAsked);
-  const bool same = holds(target, source);
-  if (same && target.is_as_asked()) return {CopyOutcome::kUnchanged, source.size()};
-  target.foresee(same ? PosixTarget::Writing::kSpelling : PosixTarget::Writing::kBytes);
-  return {CopyOutcome::kWritten, source.size()};
+  return foresee_copy_to(target, holds(target, source), source.size());
 }
 
 PosixFileSystem::Place PosixFileSystem::removable(std::string_view path) {
@@ -312,7 +301,7 @@ void PosixFileSystem::foresee(Change change, std::string_view path) {
     return;
   }
   const Spelling spelling = change == Change::kCopy ? Spelling::kAsAsked : Spelling::kAsItStands;
-  open_target(path, spelling).foresee(PosixTarget::Writing::kBytes);
+  open_target(path, spelling).foresee(Writing::kBytes);
 }
 
 std::optional<std::uint64_t> PosixFileSystem::free_room(std::string_view folder) {

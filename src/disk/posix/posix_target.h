@@ -8,9 +8,8 @@
 #include <string_view>
 #include <vector>
 
-#include "disk/file_system.h"
 #include "posix/posix_folder.h"
-#include "spelling.h"
+#include "target.h"
 
 namespace vorlund {
 
@@ -40,9 +39,6 @@ class PosixTarget {
 
   /// True when the file that is there is spelled as asked, and has no other spelling.
   [[nodiscard]] bool is_as_asked() const { return !looked_ || (current_ == name_ && others_.empty()); }
-
-  /// How much of the file is to be written.
-  enum class Writing { kSpelling, kBytes };
 
   /// Fails as `keep` or `begin` and `finish` would for what can be told beforehand.
   void foresee(Writing writing);

@@ -189,25 +189,14 @@ CopyOutcome WindowsFileSystem::copy_file(std::string_view source_path, std::stri
                                          Durability durability) {
   const WindowsSource source(source_path, patience_);
   WindowsTarget target(folders_, target_path, Spelling::kAsAsked, patience_);
-  if (holds(target, source)) {
-    return target.keep(durability) ? CopyOutcome::kUnchanged : CopyOutcome::kWritten;
-  }
-  content_.copy(source, target.begin(staging_), target_path);
-  if (!target.finish(durability)) {
-    staging_.reset();
-    content_.copy(source, target.begin(nullptr), target_path);
-    target.finish(durability);
-  }
-  return CopyOutcome::kWritten;
+  return copy_to(target, holds(target, source), staging_, durability,
+                 [&](HANDLE written) { content_.copy(source, written, target_path); });
 }
 
 CopyForecast WindowsFileSystem::foresee_copy(std::string_view source_path, std::string_view target_path) {
   const WindowsSource source(source_path, patience_);
   const WindowsTarget target(folders_, target_path, Spelling::kAsAsked, patience_);
-  const bool same = holds(target, source);
-  if (same && target.is_as_asked()) return {CopyOutcome::kUnchanged, source.size()};
-  target.foresee(same ? WindowsTarget::Writing::kSpelling : WindowsTarget::Writing::kBytes);
-  return {CopyOutcome::kWritten, source.size()};
+  return foresee_copy_to(target, holds(target, source), source.size());
 }
 
 void WindowsFileSystem::foresee(Change change, std::string_view path) {
@@ -219,7 +208,7 @@ void WindowsFileSystem::foresee(Change change, std::string_view path) {
     return;
   }
   const Spelling spelling = change == Change::kCopy ? Spelling::kAsAsked : Spelling::kAsItStands;
-  WindowsTarget(folders_, path, spelling, patience_).foresee(WindowsTarget::Writing::kBytes);
+  WindowsTarget(folders_, path, spelling, patience_).foresee(Writing::kBytes);
 }
 
 std::optional<std::uint64_t> WindowsFileSystem::free_room(std::string_view folder) {

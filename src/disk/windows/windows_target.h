@@ -9,8 +9,7 @@
 #include <string>
 #include <string_view>
 
-#include "disk/file_system.h"
-#include "spelling.h"
+#include "target.h"
 #include "windows/windows_file.h"
 #include "windows/windows_folder.h"
 #include "windows/windows_patience.h"
@@ -35,9 +34,6 @@ class WindowsTarget {
 
   /// True when the file that is there is spelled as asked.
   [[nodiscard]] bool is_as_asked() const { return !spelled_otherwise(); }
-
-  /// How much of the file is to be written.
-  enum class Writing { kSpelling, kBytes };
 
   /// Fails as `keep` or `begin` and `finish` would for what can be told beforehand.
   void foresee(Writing writing) const;
