@@ -125,7 +125,7 @@ std::optional<std::string> PosixFolder::other_spelling(std::string_view name) {
 void PosixFolder::sweep_left_overs() {
   if (std::exchange(swept_, true)) return;
   std::vector<std::string> left_overs;
-  const auto take = [&](std::string_view name) {
+  const std::function<void(std::string_view)> take = [&](std::string_view name) {
     if (is_left_over(name)) left_overs.emplace_back(name);
   };
   if (names_) {
