@@ -19,7 +19,7 @@ namespace {
 constexpr std::string_view kStagingBegin = "~vorlund-";
 constexpr std::string_view kStagingEnd = ".bak";
 
-/// Of a number of 32 bits.
+/// Hexadecimal digits of a number of 32 bits.
 constexpr std::size_t kMostDigits = 8;
 
 std::string hexadecimal(std::uint32_t number) {

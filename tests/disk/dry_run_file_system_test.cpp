@@ -230,16 +230,15 @@ TEST_F(DryRun, ForeseesWhatCanBeDoneToWhatItHasWritten) {
   EXPECT_THROW(dry_.foresee(Change::kRemove, folder_.path("nothing")), ActionError);
 }
 
-TEST_F(DryRun, FilesInTheFolderOfARootPathAreFound) {
-  folder_.write("file", "x");
-  EXPECT_TRUE(dry_.FileExists(folder_.path("file")));
-  EXPECT_FALSE(dry_.FileExists("\\no such file"));
-  EXPECT_FALSE(dry_.FileExists("no such file"));
-  EXPECT_FALSE(dry_.is_there("C:\\no such file"));
+TEST_F(DryRun, ABareNameIsOneOfTheCurrentFolder) {
+  dry_.replace_file("vorlund dry run", "bytes", Durability::kCached);
+  EXPECT_EQ(dry_.read_file(".\\vorlund dry run"), "bytes");
+  EXPECT_TRUE(dry_.FileExists(disk_->current_folder() + "\\vorlund dry run"));
+  EXPECT_FALSE(dry_.FileExists("\\vorlund dry run"));
+  EXPECT_FALSE(disk_->FileExists("vorlund dry run"));
 }
 
 TEST_F(DryRun, BytesThatCannotBeReadTodayAreNotThoseThatItWrites) {
-  folder_.write("source", "bytes");
   folder_.write("Game/file", "bytes");
   class Unreadable : public test::ForwardingFileSystem {
    public:

@@ -126,14 +126,15 @@ TEST_F(StartProgramTest, AProgramThatTheSystemRefusesIsAnError) {
 }
 
 TEST_F(StartProgramTest, WithoutThe32BitPartOfWineTheErrorSaysHowToInstallIt) {
+  const std::string root = std::filesystem::canonical(folder_.path());
   make_script("usr/bin/wine", "exit 0");
   folder_.write("usr/lib/wine/wine64", "");
   ::setenv("PATH", system_path("usr/bin").c_str(), 1);
-  const PosixCommand command = command_for("/fly.exe", windows_program("\x64\x86"), folder_.path());
+  const PosixCommand command = command_for("/fly.exe", windows_program("\x64\x86"), root);
   EXPECT_EQ(command.executable, system_path("usr/bin/wine"));
   EXPECT_EQ(command.arguments, (std::vector<std::string>{"wine", "/fly.exe"}));
   try {
-    command_for("/fly.exe", windows_program("\x4C\x01"), folder_.path());
+    command_for("/fly.exe", windows_program("\x4C\x01"), root);
     ADD_FAILURE() << "no error";
   } catch (const ActionError& error) {
     EXPECT_EQ(error.path(), "/fly.exe");
@@ -162,7 +163,7 @@ TEST(WindowsProgram, IsToldToBeA32BitOneByItsHeader) {
 
 TEST(WindowsProgram, TakesThe32BitPartOfDebiansWineWhereItIsOne) {
   const test::TemporaryFolder folder;
-  const std::string root = folder.path();
+  const std::string root = std::filesystem::canonical(folder.path());
   for (const char* name : {"usr/bin/wine-stable", "usr/lib/wine/wine64", "opt/wine"}) folder.write(name, "");
   std::filesystem::create_symlink("wine-stable", root + "/usr/bin/wine");
   EXPECT_TRUE(lacks_32_bit_wine(root + "/usr/bin/wine", root));

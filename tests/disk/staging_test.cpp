@@ -117,8 +117,8 @@ TEST_F(Staging, OfOtherPermissionsItServesNot) {
 #ifndef _WIN32
 
 TEST_F(Staging, OfAnotherGroupItServesNot) {
-  if (::geteuid() != 0) GTEST_SKIP() << "only root gives a folder to any group";
-  ASSERT_EQ(::chown((folder_.path() + "/Store").c_str(), static_cast<uid_t>(-1), 1), 0);
+  if (::chown((folder_.path() + "/Store").c_str(), static_cast<uid_t>(-1), 1) != 0)
+    GTEST_SKIP() << "only root gives a folder to any group";
   folder_.write("Store/" + left_over_, "would be swept");
   copy_set(folder_.path("Store"));
   expect_copied({{"Store/" + left_over_, "would be swept"}});

@@ -74,12 +74,12 @@ TEST_F(RowOverlapsTest, ARowCouldGoWhereLaterRowsReplaceEachOfItsFiles) {
 
 TEST_F(RowOverlapsTest, NamesThatLeadElsewhereAndFoldersThatCannotBeListedHaveNoFiles) {
   store("A/One/sky.pal");
-  folder.write("~Vorlund/GameStore/A/file", "");
+  store("A/sky.pal");
+  store("sky.pal");
   for (const char* name : {"One", "..\\A\\One", "One", ""}) table.add_row({"A", name});
   table.add_row({"..", "GameStore"});
   EXPECT_EQ(overlaps().shared_files(1, 3), 1);
-  EXPECT_EQ(overlaps().shared_files(1, 2), 0);
-  EXPECT_EQ(overlaps().shared_files(1, 5), 0);
+  for (const int row : {2, 4, 5}) EXPECT_EQ(overlaps().shared_files(1, row), 0) << row;
   WithoutListings failing(*files);
   const RowOverlaps rows({failing, folder.path()}, table);
   EXPECT_EQ(rows.shared_files(1, 3), 0);

@@ -238,7 +238,10 @@ TEST_F(Browser, AFlightModelWithoutALineIsToldOf) {
       << last_outcome();
 }
 
-TEST_F(Browser, AClickBesideThePlaneCodesSelectsNone) {
+TEST_F(Browser, AClickBesideThePlaneCodesPutsNoneIntoTheRow) {
+  browser.DoFM();
+  plane.G1.select(kSpitfireRow, PlaneTable::kScriptFolder);
+  ASSERT_EQ(plane.List3.items.size(), 30U);
   for (const int index : {-1, 30}) {
     form.List3_Click(index);
     EXPECT_EQ(cell(kSpitfireRow, PlaneTable::kRecordNumber), "") << index;

@@ -74,9 +74,10 @@ class ForecastTest : public testing::Test {
   PictureMenu menu_;
 };
 
-TEST_F(ForecastTest, ARecordNamesTheFirstLaterOneThatHoldsSomeOfItsBytes) {
+TEST_F(ForecastTest, ARecordNamesOneOfThoseThatLaterTakeSomeOfItsBytes) {
   store_patch(record(0, "aaaaaaaaaaaaaaaaaaaa") + record(5, "bbb") + record(10, "cc") + record(3, "ddd"));
-  EXPECT_EQ(overlaps(), (std::vector<int>{3, 3, -1, -1})) << "the first also overlaps the second and third";
+  EXPECT_EQ(overlaps(), (std::vector<int>{3, 3, -1, -1}))
+      << "the fourth takes bytes of the first and of the second";
 }
 
 TEST_F(ForecastTest, RecordsThatOnlyTouchDoNotOverlap) {

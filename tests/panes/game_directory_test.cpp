@@ -23,6 +23,13 @@ class ElsewhereFileSystem : public test::ForwardingFileSystem {
   std::string current_;
 };
 
+/// The same, and no folder holds anything.
+class EmptyFileSystem : public ElsewhereFileSystem {
+ public:
+  using ElsewhereFileSystem::ElsewhereFileSystem;
+  std::vector<FolderEntry> entries(std::string_view) override { return {}; }
+};
+
 class GameDirectoryTest : public testing::Test {
  protected:
   GameDirectoryTest() {
@@ -86,13 +93,13 @@ TEST(GameDirectory, ARootIsItsOwnParentAndTakesNoSecondSeparator) {
     const char* parent;
   } cases[] = {{"C:\\", "C:\\"}, {"C:\\Games", "C:\\"}, {"\\", "\\"}, {"/Games", "/"}, {"Games", "Games"}};
   for (const auto& one : cases) {
-    ElsewhereFileSystem files(*disk, one.folder);
+    EmptyFileSystem files(*disk, one.folder);
     GameDirectory game(files);
     game.start();
     game.open_folder(-2);
     EXPECT_EQ(game.Label16.caption, one.parent) << one.folder;
   }
-  ElsewhereFileSystem files(*disk, "C:\\");
+  EmptyFileSystem files(*disk, "C:\\");
   GameDirectory game(files);
   game.start();
   game.Dir6.names = {"Games"};

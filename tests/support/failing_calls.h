@@ -8,8 +8,8 @@ namespace vorlund::test {
 
 /// While it lives, every call of one function of the system fails that goes by a name: for "openat",
 /// "faccessat", "fstatat", "unlinkat" and "renameat" the name they are given, for "fstatvfs", "getdents64",
-/// "fsync", "ftruncate" and "lseek" the path of what is open. The call is not made. One at a time; only programs that link
-/// failing_calls.cpp know it.
+/// "fsync", "ftruncate" and "lseek" the path of what is open. The call is not made. One at a time; only
+/// programs that link failing_calls.cpp know it.
 class FailingCall {
  public:
   /// `ending` is how the name ends, `error` the error number; `times` tells how many

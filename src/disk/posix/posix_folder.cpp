@@ -31,6 +31,8 @@ SplitPath split_path(std::string_view path) {
     const std::size_t begin = std::max(parts.folder.rfind('\\', last) + 1, parts.folder.rfind('/', last) + 1);
     parts = {path.substr(0, begin), path.substr(begin, last + 1 - begin)};
   }
+  const std::size_t end = parts.folder.find_last_not_of("\\/") + 1;
+  if (end > 0) parts.folder = parts.folder.substr(0, end);
   if (parts.folder.empty()) parts.folder = ".";
   return parts;
 }
@@ -178,7 +180,6 @@ std::shared_ptr<PosixFolder> PosixFolders::open(std::string_view path) {
 
   std::string spelled(path);
   std::replace(spelled.begin(), spelled.end(), '\\', '/');
-  spelled.resize(std::max<std::size_t>(spelled.find_last_not_of('/') + 1, 1));
   FileHandle handle = open_folder_at(AT_FDCWD, spelled.c_str());
   if (handle.is_open()) return keep(path, std::move(handle), std::move(spelled));
   const SplitPath parts = split_path(path);

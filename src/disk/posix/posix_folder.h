@@ -17,13 +17,13 @@
 
 namespace vorlund {
 
-/// A path cut before its last name: separators and parts "." behind that are left out.
+/// A path cut before its last name; separators and parts "." behind that name are left out.
 struct SplitPath {
-  std::string_view folder;  ///< as the path spells it, with its separator; "." for the current folder
+  std::string_view folder;  ///< as the path spells it; "." for the current folder
   std::string_view name;    ///< "." for the current folder or the root itself
 };
 
-/// Takes a path of the program apart, which outlives the parts. A path that no file can have (empty, with a
+/// Takes a path of the program apart. The parts are views of it. A path that no file can have (empty, with a
 /// NUL) gives an empty name.
 SplitPath split_path(std::string_view path);
 
